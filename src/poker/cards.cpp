@@ -39,7 +39,8 @@ void check_card(int code) {
 
 Card parse_card(std::string_view text) {
     if (text.size() != 2) throw std::invalid_argument("Card token must consist of two characters");
-    return make_card(parse_rank(text[0]), parse_suit(text[1]));
+    const int rank = parse_rank(text[0]);  // rank first, so a token bad in both places names the rank
+    return make_card(rank, parse_suit(text[1]));
 }
 
 std::array<Card, 3> parse_flop(std::string_view text) {
