@@ -19,5 +19,8 @@ struct UsageError {
 
 int run_eval(const Arguments& args);
 int run_range(const Arguments& args);
+int run_tree(const Arguments& args);
+int run_estimate(const Arguments& args);
+int run_solve(const Arguments& args);
 
 }  // namespace kelvane_cli

@@ -16,8 +16,14 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"eval", "eval CARDS | eval --stdin      strength and category of seven cards", kelvane_cli::run_eval},
+    {"eval", "eval CARDS | eval --stdin      strength and category of exactly seven cards\n"
+     "                                                other card counts: error, exit 1", kelvane_cli::run_eval},
     {"range", "range TEXT                      weights of a range text as JSON", kelvane_cli::run_range},
+    {"tree", "tree SPOT.json                  size of the betting tree of a spot file", kelvane_cli::run_tree},
+    {"estimate", "estimate SPOT.json              memory estimate of a solve as JSON", kelvane_cli::run_estimate},
+    {"solve", "solve SPOT.json [--threads N] [--max-iterations N] [--target-pct P] [--compress]\n"
+              "                [--quiet] [--output FILE] [--line TEXT]...   solve a spot, result as JSON",
+     kelvane_cli::run_solve},
 };
 
 int print_usage(std::string_view problem) {

@@ -1,0 +1,16 @@
+#pragma once
+// Lines of play through a solve result: "Check,Bet 75%,Call,Ah" names the node reached from the
+// root by those actions, the empty text the root itself.
+
+#include <QJsonObject>
+
+#include <string>
+
+#include "session/solve_result.h"
+
+namespace kelvane_cli {
+
+// The node's player and actions, or {"line", "error"} naming the first action that isn't there.
+QJsonObject line_json(const kelvane_app::SolveResult& result, const std::string& line);
+
+}  // namespace kelvane_cli

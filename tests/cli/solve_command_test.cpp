@@ -1,0 +1,187 @@
+// orvanthis-cli solve and estimate, run as processes on the bench spots.
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <signal.h>
+
+#include <cmath>
+
+namespace {
+
+const QString kSpotDir = QStringLiteral(KELVANE_SOURCE_DIR "/bench/spots/");
+
+struct CliRun {
+    int exit_code = -1;
+    QByteArray out;
+    QByteArray err;
+    QJsonObject json;
+};
+
+CliRun run_cli(const QStringList& args) {
+    QProcess process;
+    process.start(QStringLiteral(ORVANTHIS_CLI), args);
+    EXPECT_TRUE(process.waitForFinished(120000));
+    CliRun run;
+    run.exit_code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    run.json = QJsonDocument::fromJson(run.out).object();
+    return run;
+}
+
+QStringList lines_of(const QByteArray& text) {
+    return QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
+}
+
+TEST(SolveCommand, RiverSpotEndToEnd) {
+    const CliRun run = run_cli({"solve", kSpotDir + "river.json", "--max-iterations", "60", "--threads", "2",
+                                "--line", "", "--line", "Check,Bet 75%", "--line", "Bet 75%,Raise 999%"});
+    ASSERT_EQ(run.exit_code, 0) << run.err.toStdString();
+    const QJsonObject& json = run.json;
+    for (const char* key : {"success", "error", "board", "starting_pot", "effective_stack", "iterations",
+                            "exploitability", "exploitability_pct", "ev_oop", "ev_ip", "root_actions", "node_count",
+                            "estimate_bytes", "peak_rss_bytes", "build_ms", "solve_ms", "ms_per_iteration", "threads",
+                            "lines"})
+        EXPECT_TRUE(json.contains(key)) << key;
+    EXPECT_TRUE(json.value("success").toBool());
+    EXPECT_EQ(json.value("error").toString(), "");
+    EXPECT_EQ(json.value("board").toString(), "Ks9d4c7h2s");
+    EXPECT_EQ(json.value("starting_pot").toInt(), 100);
+    EXPECT_EQ(json.value("effective_stack").toInt(), 500);
+    EXPECT_EQ(json.value("threads").toInt(), 2);
+    const int iterations = json.value("iterations").toInt();
+    EXPECT_TRUE(iterations == 50 || iterations == 60) << iterations;
+    EXPECT_DOUBLE_EQ(json.value("exploitability_pct").toDouble(), json.value("exploitability").toDouble());
+    EXPECT_GT(json.value("node_count").toInt(), 1);
+    EXPECT_GT(json.value("estimate_bytes").toDouble(), 0.0);
+    EXPECT_GT(json.value("peak_rss_bytes").toDouble(), 0.0);
+
+    const QJsonArray root = json.value("root_actions").toArray();
+    ASSERT_EQ(root.size(), 2);
+    EXPECT_EQ(root[0].toObject().value("name").toString(), "Check");
+    EXPECT_EQ(root[1].toObject().value("type").toString(), "bet 75%");
+    EXPECT_NEAR(root[0].toObject().value("frequency").toDouble() + root[1].toObject().value("frequency").toDouble(),
+                1.0, 1e-5);
+
+    const QJsonArray lines = json.value("lines").toArray();
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines[0].toObject().value("node_index").toInt(), 0);
+    EXPECT_EQ(lines[0].toObject().value("player").toString(), "OOP");
+    const QJsonObject river_node = lines[1].toObject();
+    EXPECT_EQ(river_node.value("line").toString(), "Check,Bet 75%");
+    EXPECT_EQ(river_node.value("player").toString(), "OOP");
+    EXPECT_EQ(river_node.value("action_names").toArray().first().toString(), "Fold");
+    EXPECT_EQ(river_node.value("action_types").toArray().size(), river_node.value("action_frequencies").toArray().size());
+    EXPECT_TRUE(lines[2].toObject().value("error").toString().startsWith("Action 'Raise 999%' not found at node "))
+        << lines[2].toObject().value("error").toString().toStdString();
+    EXPECT_FALSE(lines[2].toObject().contains("node_index"));
+
+    const QStringList status = lines_of(run.err);
+    ASSERT_GE(status.size(), 6);
+    EXPECT_EQ(status[0], "Init: building game object...");
+    EXPECT_EQ(status[1], "Init: building game tree structures...");
+    EXPECT_EQ(status[2], "Init: starting solver...");
+    EXPECT_EQ(status[3], QString::fromUtf8("Iter 1 | exploitability\u2248" "0.0000"));
+    EXPECT_EQ(status.last(), "Done");
+}
+
+TEST(SolveCommand, QuietWritesNoStatusAndOutputGoesToTheFile) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("result.json");
+    const CliRun run = run_cli({"solve", kSpotDir + "river.json", "--max-iterations", "3", "--quiet", "--compress",
+                                "--output", path});
+    ASSERT_EQ(run.exit_code, 0);
+    EXPECT_TRUE(run.err.isEmpty());
+    EXPECT_TRUE(run.out.isEmpty());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
+    EXPECT_TRUE(json.value("success").toBool());
+    EXPECT_EQ(json.value("iterations").toInt(), 3);
+}
+
+TEST(SolveCommand, TargetPercentStopsAtAMeasuringIteration) {
+    const CliRun run = run_cli({"solve", kSpotDir + "river.json", "--quiet", "--max-iterations", "5000",
+                                "--target-pct", "50"});
+    ASSERT_EQ(run.exit_code, 0);
+    EXPECT_EQ(run.json.value("iterations").toInt() % 50, 0);
+    EXPECT_LE(run.json.value("exploitability_pct").toDouble(), 50.0);
+}
+
+TEST(SolveCommand, BadUsage) {
+    EXPECT_EQ(run_cli({"solve"}).exit_code, 2);
+    EXPECT_EQ(run_cli({"solve", kSpotDir + "river.json", "--threads", "many"}).exit_code, 2);
+    EXPECT_EQ(run_cli({"solve", kSpotDir + "river.json", "--bogus"}).exit_code, 2);
+    EXPECT_EQ(run_cli({"solve", kSpotDir + "river.json", "--line"}).exit_code, 2);
+}
+
+TEST(SolveCommand, FailedSolveExitsWithOne) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("bad.json");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"board": "Ks9d4", "oop_range": "AA", "ip_range": "KK"})");
+    file.close();
+    const CliRun run = run_cli({"solve", path});
+    EXPECT_EQ(run.exit_code, 1);
+    EXPECT_FALSE(run.json.value("success").toBool());
+    EXPECT_EQ(run.json.value("error").toString(), "Board must include at least a flop (6 chars, e.g. AhKsQd)");
+    EXPECT_EQ(lines_of(run.err).last(), "Error: Board must include at least a flop (6 chars, e.g. AhKsQd)");
+}
+
+TEST(SolveCommand, InterruptCancelsTheSolve) {
+    QProcess process;
+    process.setReadChannel(QProcess::StandardError);
+    process.start(QStringLiteral(ORVANTHIS_CLI),
+                  {"solve", kSpotDir + "river.json", "--max-iterations", "100000000", "--target-pct", "0"});
+    ASSERT_TRUE(process.waitForStarted());
+    bool iterating = false;
+    while (!iterating && process.waitForReadyRead(60000)) {
+        while (process.canReadLine())
+            if (process.readLine().startsWith("Iter")) iterating = true;
+    }
+    ASSERT_TRUE(iterating);
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(lines_of(process.readAllStandardError()).last(), "Cancelled");
+    const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    EXPECT_FALSE(json.value("success").toBool());
+    EXPECT_EQ(json.value("error").toString(), "Cancelled");
+}
+
+TEST(EstimateCommand, SpotAndBadBoard) {
+    const CliRun good = run_cli({"estimate", kSpotDir + "river.json"});
+    ASSERT_EQ(good.exit_code, 0);
+    EXPECT_TRUE(good.json.value("ok").toBool());
+    EXPECT_TRUE(good.json.value("valid").toBool());
+    for (const char* key : {"total_bytes", "card_context_bytes", "tree_bytes", "state_bytes", "node_count",
+                            "decision_node_count", "oop_hands", "ip_hands"})
+        EXPECT_GT(good.json.value(key).toDouble(), 0.0) << key;
+    const double counted = good.json.value("tree_bytes").toDouble() + good.json.value("card_context_bytes").toDouble() +
+                           good.json.value("state_bytes").toDouble();
+    EXPECT_EQ(good.json.value("total_bytes").toDouble(), std::floor(counted * 1.1));
+
+    QTemporaryDir dir;
+    const QString path = dir.filePath("bad.json");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({"board": "Ks9d", "oop_range": "AA", "ip_range": "KK"})");
+    file.close();
+    const CliRun bad = run_cli({"estimate", path});
+    EXPECT_EQ(bad.exit_code, 1);
+    EXPECT_FALSE(bad.json.value("ok").toBool());
+    EXPECT_FALSE(bad.json.value("valid").toBool());
+    EXPECT_EQ(bad.json.value("error").toString(), "Board must include at least a flop (6 chars, e.g. AhKsQd)");
+    EXPECT_EQ(run_cli({"estimate"}).exit_code, 2);
+}
+
+}  // namespace
