@@ -1,0 +1,131 @@
+#pragma once
+// Discounted CFR over one Game: per-node strategy storage, the solve loop, the walks and the measures.
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "solver/game.h"
+#include "solver/node_state.h"
+#include "solver/scratch_stack.h"
+#include "solver/worker_pool.h"
+
+namespace kelvane {
+
+struct DiscountedCfrOptions {
+    std::uint32_t max_iterations = 2000;
+    float target_exploitability = 0.1f;  // chips
+    std::uint32_t exploit_check_interval = 50;
+    bool verbose = false;
+    bool compress_state = false;
+    std::uint64_t thread_count = 1;
+    std::function<void(std::uint32_t iteration, float exploitability, double milliseconds)> on_iteration;
+    std::function<bool()> should_cancel;
+};
+
+// A root measure, one value for each seat.
+using SeatValues = std::array<float, 2>;
+
+class DiscountedCfr {
+public:
+    explicit DiscountedCfr(const DiscountedCfrOptions& options);
+    ~DiscountedCfr();
+    DiscountedCfr(const DiscountedCfr&) = delete;
+    DiscountedCfr& operator=(const DiscountedCfr&) = delete;
+
+    // Returns alike on the iteration limit, the target and a cancel.
+    void solve(Game& game);
+
+    std::uint32_t iterations() const { return iterations_done; }
+    float last_exploitability() const { return exploitability; }
+    std::uint64_t workers() const { return worker_count; }
+
+    std::uint64_t state_count() const { return states.size(); }
+    const NodeState& node_state(std::uint64_t node) const { return states[node]; }
+    NodeState& node_state(std::uint64_t node) { return states[node]; }
+    // The float matrices of a node, unpacked first where state packing left them empty.
+    std::vector<float>& regrets_of(NodeState& state);
+    std::vector<float>& strategy_sum_of(NodeState& state);
+
+    // Each hand counts the same; empty for an inactive or unknown node.
+    std::vector<float> average_strategy(std::uint64_t node);
+    // num_actions × num_hands, action-major.
+    std::vector<float> average_hand_strategy(std::uint64_t node);
+
+    SeatValues best_response_values(const Game& game);
+    SeatValues average_strategy_values(const Game& game);
+    std::vector<float> node_values(const Game& game, std::uint64_t node, std::uint8_t seat);
+    std::vector<float> node_values_with_reach(const Game& game, std::uint64_t node, std::uint8_t seat,
+                                              std::span<const float> reach);
+    // Mean over the seats of what a best response gains over the average strategy, in chips.
+    float measure_exploitability(const Game& game);
+
+    // One discounted update of both seats, t counted from 0.
+    void iteration(const Game& game, std::uint32_t t);
+    void prepare_states(const Game& game);
+
+    // The update pass: counterfactual values under the current strategies; at the nodes of `seat`
+    // it updates regrets and cumulative strategy.
+    void solve_recursive(const Game& game, std::uint64_t node, std::uint8_t seat,
+                         std::span<const float> opponent_reach, std::span<float> out, std::int32_t first_action,
+                         std::uint64_t depth, ScratchStack& scratch);
+    // The read-only pass: counterfactual values with both seats on the average strategy.
+    void compute_cfvalue_recursive(const Game& game, std::uint64_t node, std::uint8_t seat,
+                                   std::span<const float> opponent_reach, std::span<float> out, bool store,
+                                   std::uint64_t depth, ScratchStack& scratch);
+    // Values of a best response of `seat` against the other seat's average strategy, within seat's locks.
+    void compute_best_cfvalue_recursive(const Game& game, std::uint64_t node, std::uint8_t seat,
+                                        std::span<const float> opponent_reach, std::span<float> out,
+                                        std::uint64_t depth, ScratchStack& scratch);
+
+    template <class Body>
+    void parallel_for(std::uint64_t count, const Body& body) {
+        kelvane::parallel_for(pool.get(), worker_count, count, body);
+    }
+
+    float discount_alpha() const { return alpha_t; }
+    float discount_beta() const { return beta_t; }
+    float discount_gamma() const { return gamma_t; }
+
+private:
+    // Shared by the two read-only walks: the chance average and the other seat's average strategy.
+    enum class ValueWalk { average, best_response };
+    void value_walk(ValueWalk walk, const Game& game, std::uint64_t node, std::uint8_t seat,
+                    std::span<const float> opponent_reach, std::span<float> out, std::uint64_t depth,
+                    ScratchStack& scratch);
+    void value_chance(ValueWalk walk, const Game& game, std::uint64_t node, std::uint8_t seat,
+                      std::span<const float> opponent_reach, std::span<float> out, std::uint64_t depth,
+                      ScratchStack& scratch);
+    void value_opponent(ValueWalk walk, const Game& game, std::uint64_t node, std::uint8_t seat,
+                        std::span<const float> opponent_reach, std::span<float> out, std::uint64_t depth,
+                        ScratchStack& scratch);
+    void solve_chance(const Game& game, std::uint64_t node, std::uint8_t seat, std::span<const float> opponent_reach,
+                      std::span<float> out, std::int32_t first_action, std::uint64_t depth, ScratchStack& scratch);
+    void solve_opponent(const Game& game, std::uint64_t node, std::uint8_t seat,
+                        std::span<const float> opponent_reach, std::span<float> out, std::int32_t first_action,
+                        std::uint64_t depth, ScratchStack& scratch);
+    void solve_own(const Game& game, std::uint64_t node, std::uint8_t seat, std::span<const float> opponent_reach,
+                   std::span<float> out, std::int32_t first_action, std::uint64_t depth, ScratchStack& scratch);
+    SeatValues root_values(const Game& game, ValueWalk walk);
+
+    DiscountedCfrOptions options;
+    float exploitability = 0.0f;
+    std::uint32_t iterations_done = 0;
+    std::uint32_t current_iteration = 0;
+    std::array<std::vector<float>, 2> iteration_values;
+    std::array<std::vector<float>, 2> result_values;
+    std::vector<NodeState> states;
+    bool compress_state = false;
+    std::vector<std::uint8_t> parallel_chance;
+    float alpha_t = 0.0f;
+    float beta_t = 0.5f;
+    float gamma_t = 0.0f;
+    std::uint64_t worker_count = 1;
+    std::unique_ptr<WorkerPool> pool;
+    std::array<ScratchStack, 2> scratch;
+};
+
+}  // namespace kelvane

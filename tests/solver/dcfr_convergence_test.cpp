@@ -1,0 +1,216 @@
+// Convergence on real spots, a game with a closed-form equilibrium, state packing and thread-count
+// independence of every stored number.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "solver/discounted_cfr.h"
+#include "solver_spots.h"
+#include "spot_file.h"
+
+namespace kelvane {
+namespace {
+
+using testing::child_by_kind;
+using testing::PolarizedSpot;
+using testing::quiet_options;
+
+// Exploitability every 50 iterations as a share of the starting pot.
+std::vector<float> measured_shares(Game& game, DiscountedCfrOptions options) {
+    std::vector<float> shares;
+    const float pot = static_cast<float>(game.config().starting_pot);
+    options.on_iteration = [&](std::uint32_t i, float e, double) {
+        if (i % options.exploit_check_interval == 0 || i == options.max_iterations) shares.push_back(e / pot);
+    };
+    DiscountedCfr cfr(options);
+    cfr.solve(game);
+    return shares;
+}
+
+void expect_converges(Game& game, std::uint32_t iterations) {
+    const std::vector<float> shares = measured_shares(game, quiet_options(iterations));
+    ASSERT_GE(shares.size(), 3u);
+    EXPECT_LT(shares.back(), shares.front());
+    EXPECT_LT(shares.back(), 0.005f);
+    EXPECT_GE(shares.back(), -1e-4f);
+}
+
+// The river spot of bench/spots/river.json with the first seat's range for both seats, so that the
+// weakest hands of the two showdown rows tie and every showdown pays in full.
+TEST(Convergence, RiverSpotFallsBelowHalfAPercentOfThePot) {
+    auto game = testing::SpotFile(testing::spot_path("river")).game(true);
+    EXPECT_GT(game->hand_count(0), 80u);
+    expect_converges(*game, 300);
+}
+
+TEST(Convergence, SmallTurnSpotFallsBelowHalfAPercentOfThePot) {
+    auto game = testing::make_game(testing::small_turn_spot());
+    expect_converges(*game, 200);
+}
+
+TEST(Convergence, StatePackingReachesNearlyTheSameExploitability) {
+    auto game = testing::SpotFile(testing::spot_path("river")).game(true);
+    DiscountedCfr plain(quiet_options(300));
+    plain.solve(*game);
+    DiscountedCfrOptions packed_options = quiet_options(300);
+    packed_options.compress_state = true;
+    DiscountedCfr packed(packed_options);
+    packed.solve(*game);
+    EXPECT_TRUE(game->compress_state());
+    const float pot = static_cast<float>(game->config().starting_pot);
+    EXPECT_LT(packed.last_exploitability() / pot, 0.005f);
+    EXPECT_NEAR(packed.last_exploitability(), plain.last_exploitability(), 0.005f * pot);
+    // The second seat's regrets stay packed after its pass (the first seat's were unpacked to be read
+    // by that pass); the measures left the strategy sums unpacked.
+    const NodeState& ip = packed.node_state(child_by_kind(*game, 0, kActionCheck));
+    ASSERT_EQ(ip.seat, 1);
+    EXPECT_TRUE(ip.regrets.empty());
+    EXPECT_EQ(ip.regrets_packed.size(), ip.num_actions * ip.num_hands);
+    EXPECT_EQ(ip.strategy_sum.size(), ip.num_actions * ip.num_hands);
+    const std::vector<float> plain_root = plain.average_strategy(0);
+    const std::vector<float> packed_root = packed.average_strategy(0);
+    for (std::size_t a = 0; a < plain_root.size(); ++a) EXPECT_NEAR(packed_root[a], plain_root[a], 0.02f);
+}
+
+TEST(Convergence, RakeWithoutCapIsNoRake) {
+    testing::SpotSetup setup = testing::small_turn_spot();
+    auto plain_game = testing::make_game(setup);
+    setup.rake_fraction = 0.05;
+    auto capless_game = testing::make_game(setup);
+    DiscountedCfr plain(quiet_options(50));
+    DiscountedCfr capless(quiet_options(50));
+    plain.solve(*plain_game);
+    capless.solve(*capless_game);
+    EXPECT_EQ(plain.last_exploitability(), capless.last_exploitability());
+    const SeatValues best = capless.best_response_values(*capless_game);
+    EXPECT_EQ(capless.last_exploitability(), static_cast<float>((static_cast<double>(best[1]) + best[0]) * 0.5));
+}
+
+TEST(Convergence, RakedExploitabilitySubtractsTheAverageValues) {
+    testing::SpotSetup setup = testing::small_turn_spot();
+    setup.rake_fraction = 0.05;
+    setup.rake_cap = 3.0;
+    auto game = testing::make_game(setup);
+    DiscountedCfr cfr(quiet_options(200));
+    cfr.solve(*game);
+    const SeatValues best = cfr.best_response_values(*game);
+    const SeatValues average = cfr.average_strategy_values(*game);
+    const float d1 = best[1] - average[1];
+    const float d0 = best[0] - average[0];
+    EXPECT_EQ(cfr.last_exploitability(), static_cast<float>((static_cast<double>(d1) + d0) * 0.5));
+    EXPECT_LT(average[0] + average[1], -0.1f);  // the rake leaves the table
+    EXPECT_LT(cfr.last_exploitability() / 100.0f, 0.005f);
+}
+
+// Closed forms for a pot P, a bet B, value V, air A, catchers C and a trace T that ties the air:
+// the catcher calls c = P (C + T/2) / (C (P + B)), which leaves the air indifferent; the value bets
+// always and the air bluffs V·B/(P + B) combos, which leaves the catcher indifferent.
+TEST(Convergence, PolarizedRiverMatchesTheClosedForm) {
+    auto game = testing::make_game(PolarizedSpot::setup());
+    DiscountedCfr cfr(quiet_options(2000));
+    cfr.solve(*game);
+
+    const double P = 100.0;
+    const double B = 100.0;
+    const double V = PolarizedSpot::kValueCombos;
+    const double A = PolarizedSpot::kAirCombos;
+    const double C = PolarizedSpot::kCatcherCombos;
+    const double T = PolarizedSpot::kTraceCombos * PolarizedSpot::kTraceWeight;
+    const double call = P * (C + T / 2.0) / (C * (P + B));
+    const double bluffs = V * B / (P + B);
+    const double value_total = V * (C * (call * (P / 2 + B) + (1.0 - call) * P / 2) + T * P / 2);
+    const double air_total = A * (-C * P / 2);
+    const double oop_ev = (value_total + air_total) / ((V + A) * (C + T));
+
+    EXPECT_LT(cfr.last_exploitability(), 0.05f);  // a twentieth of a percent of the pot
+    const SeatValues ev = cfr.average_strategy_values(*game);
+    EXPECT_NEAR(ev[0], oop_ev, 0.02);
+    EXPECT_NEAR(ev[1], -oop_ev, 0.02);
+
+    const std::size_t oop_hands = game->hand_count(0);
+    ASSERT_EQ(static_cast<double>(oop_hands), V + A);
+    const std::vector<float> root = cfr.average_hand_strategy(0);
+    ASSERT_EQ(game->node(0).actions[1].kind, kActionAllIn);
+    double bluff_combos = 0.0;
+    for (std::size_t h = 0; h < oop_hands; ++h) {
+        const Pocket pocket = game->hands(0)[h];
+        const float bet = root[oop_hands + h];
+        if (rank_of(pocket.first) == rank_of(pocket.second)) {
+            EXPECT_GT(bet, 0.99f) << h;
+        } else {
+            bluff_combos += bet;
+        }
+    }
+    EXPECT_NEAR(bluff_combos, bluffs, 0.05);
+
+    const std::uint64_t facing = child_by_kind(*game, 0, kActionAllIn);
+    const std::size_t ip_hands = game->hand_count(1);
+    const std::vector<float> response = cfr.average_hand_strategy(facing);
+    ASSERT_EQ(game->node(facing).actions[1].kind, kActionCall);
+    double catcher_calls = 0.0;
+    for (std::size_t h = 0; h < ip_hands; ++h) {
+        const Pocket pocket = game->hands(1)[h];
+        if (rank_of(pocket.first) == rank_of(pocket.second)) {
+            catcher_calls += response[ip_hands + h];
+        } else {
+            EXPECT_LT(response[ip_hands + h], 0.01f) << h;  // the trace ties the air and can't call
+        }
+    }
+    EXPECT_NEAR(catcher_calls / C, call, 0.02);
+}
+
+struct SolveSnapshot {
+    std::vector<std::vector<float>> regrets;
+    std::vector<std::vector<float>> strategy_sums;
+    float exploitability = 0.0f;
+    SeatValues root_values{};
+    SeatValues best_values{};
+};
+
+SolveSnapshot solve_snapshot(Game& game, std::uint32_t iterations, std::uint64_t threads) {
+    DiscountedCfrOptions options = quiet_options(iterations, threads);
+    options.exploit_check_interval = 5;
+    DiscountedCfr cfr(options);
+    cfr.solve(game);
+    SolveSnapshot snapshot;
+    for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
+        snapshot.regrets.push_back(cfr.node_state(n).regrets);
+        snapshot.strategy_sums.push_back(cfr.node_state(n).strategy_sum);
+    }
+    snapshot.exploitability = cfr.last_exploitability();
+    snapshot.root_values = cfr.average_strategy_values(game);
+    snapshot.best_values = cfr.best_response_values(game);
+    return snapshot;
+}
+
+bool bitwise_equal(const std::vector<float>& a, const std::vector<float>& b) {
+    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0);
+}
+
+bool bitwise_equal(float a, float b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+
+TEST(Determinism, EveryStoredNumberIsIndependentOfTheThreadCount) {
+    auto game = testing::make_game(testing::wide_turn_spot());
+    ASSERT_GE(game->hand_count(0), 128u);  // wide enough for the update pass to fan out
+    ASSERT_GE(game->hand_count(1), 128u);
+    const SolveSnapshot one = solve_snapshot(*game, 12, 1);
+    EXPECT_GT(one.exploitability, 0.0f);
+    for (std::uint64_t threads : {2u, 3u}) {
+        const SolveSnapshot many = solve_snapshot(*game, 12, threads);
+        ASSERT_EQ(many.regrets.size(), one.regrets.size());
+        for (std::size_t n = 0; n < one.regrets.size(); ++n) {
+            EXPECT_TRUE(bitwise_equal(many.regrets[n], one.regrets[n])) << "node " << n << ", " << threads;
+            EXPECT_TRUE(bitwise_equal(many.strategy_sums[n], one.strategy_sums[n])) << "node " << n;
+        }
+        EXPECT_TRUE(bitwise_equal(many.exploitability, one.exploitability)) << threads;
+        for (std::size_t seat = 0; seat < 2; ++seat) {
+            EXPECT_TRUE(bitwise_equal(many.root_values[seat], one.root_values[seat])) << threads;
+            EXPECT_TRUE(bitwise_equal(many.best_values[seat], one.best_values[seat])) << threads;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace kelvane

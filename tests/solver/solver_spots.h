@@ -1,0 +1,93 @@
+#pragma once
+// Small spots built in code for the solver tests: a river, turns, and a game with a known equilibrium.
+
+#include <memory>
+#include <string>
+
+#include "poker/card_context.h"
+#include "poker/cards.h"
+#include "poker/range_text.h"
+#include "solver/discounted_cfr.h"
+#include "solver/game.h"
+#include "tree/game_config.h"
+#include "tree/sizing_profile.h"
+
+namespace kelvane::testing {
+
+struct SpotSetup {
+    std::string board;
+    std::string oop_range;
+    std::string ip_range;
+    std::int32_t pot = 100;
+    std::int32_t stack = 100;
+    std::string oop_bets;
+    std::string oop_raises;
+    std::string ip_bets;
+    std::string ip_raises;
+    double rake_fraction = 0.0;
+    double rake_cap = 0.0;
+};
+
+inline std::unique_ptr<Game> make_game(const SpotSetup& setup) {
+    const BoardCards board = parse_board_text(setup.board);
+    GameConfig config;
+    config.starting_street = static_cast<std::uint8_t>(board_street(board));
+    config.starting_pot = setup.pot;
+    config.effective_stack = setup.stack;
+    config.rake_fraction = setup.rake_fraction;
+    config.rake_cap = setup.rake_cap;
+    const StreetSizing oop{setup.oop_bets, setup.oop_raises, false, false};
+    const StreetSizing ip{setup.ip_bets, setup.ip_raises, false, false};
+    build_sizing_profile(config.flop_sizing, oop, ip, "flop");
+    build_sizing_profile(config.turn_sizing, oop, ip, "turn");
+    build_sizing_profile(config.river_sizing, oop, ip, "river");
+    const std::array<RangeWeights, 2> ranges{parse_range_text(setup.oop_range), parse_range_text(setup.ip_range)};
+    return std::make_unique<Game>(config, CardContext(board, ranges));
+}
+
+// A turn spot small enough for many iterations. Both seats hold the same range, so that the weakest
+// hands of the two showdown rows tie on every river and the terminal payoffs stay zero-sum.
+inline SpotSetup small_turn_spot() {
+    const std::string range = "AA,99,77,AK,KQs,QJs,JTs,T8s,86s,65s";
+    return {"Ks9d4c7h", range, range, 100, 100, "50", "", "50", ""};
+}
+
+// A turn spot with more than 128 hands a side, so that the update pass fans out at the river deal.
+inline SpotSetup wide_turn_spot() {
+    const std::string range = "22+,A8s+,KTs+,QJs,AJo+,KQo";
+    return {"Ks9h5d2c", range, range, 100, 100, "50", "", "50", ""};
+}
+
+// Nuts (99, trips) and air (43, playing the board) against a bluff-catcher (88), one pot-sized bet by
+// the first seat and nothing else to do. The second seat also holds a trace of 65, which ties the air:
+// it keeps the weakest hands of the two showdown rows level, so every hand is paid in full.
+// No card is shared across the two ranges, so every matchup is possible.
+struct PolarizedSpot {
+    static constexpr double kValueCombos = 3.0;   // 99 with a nine on the board
+    static constexpr double kAirCombos = 16.0;    // 43
+    static constexpr double kCatcherCombos = 6.0; // 88
+    static constexpr double kTraceWeight = 0.001;
+    static constexpr double kTraceCombos = 16.0;  // 65
+    static SpotSetup setup() {
+        return {"AhKdQcJs9h", "99,43", "88,65:0.001", 100, 100, "100", "", "", ""};
+    }
+};
+
+inline DiscountedCfrOptions quiet_options(std::uint32_t max_iterations, std::uint64_t threads = 1) {
+    DiscountedCfrOptions options;
+    options.max_iterations = max_iterations;
+    options.target_exploitability = -1.0f;  // never met
+    options.thread_count = threads;
+    return options;
+}
+
+// The first decision node below `parent` reached by an action of `kind`, or the node count.
+inline std::uint64_t child_by_kind(const Game& game, std::uint64_t parent, std::uint8_t kind) {
+    const GameNode& node = game.node(parent);
+    for (std::size_t a = 0; a < node.actions.size(); ++a) {
+        if (node.actions[a].kind == kind) return node.children[a];
+    }
+    return game.node_count();
+}
+
+}  // namespace kelvane::testing
