@@ -6,13 +6,16 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QQmlError>
 #include <QQuickStyle>
 #include <QStandardPaths>
 #include <QtDebug>
 
+#include "app/app_controller.h"
 #include "app/app_log.h"
 #include "app/crash_hooks.h"
+#include "app/language_manager.h"
 
 namespace kelvane_app {
 namespace {
@@ -80,8 +83,11 @@ int run_application(int& argc, char** argv, const LaunchOptions& options) {
   QGuiApplication::setQuitOnLastWindowClosed(true);
 
   QQmlApplicationEngine engine;
-  // The language manager and the application controller are created here and published as the root
-  // context's properties "languageManager" and "appController", before any document loads.
+  // Created before the first load, so the first document already comes up in the saved language.
+  LanguageManager language_manager(&engine);
+  engine.rootContext()->setContextProperty(QStringLiteral("languageManager"), &language_manager);
+  AppController app_controller;
+  engine.rootContext()->setContextProperty(QStringLiteral("appController"), &app_controller);
   connect_engine_reports(engine);
 
   engine.load(options.root_document);

@@ -1,6 +1,5 @@
 #pragma once
-// Combo-level detail of a node: each hand's reach, strategy and EVs under the reach of the path,
-// a seat's plain combo list, and the per-action EVs of one pocket.
+// Combo-level detail of a node: reach, strategy and EVs of each hand, and of one pocket.
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,5 @@
 #pragma once
-// Equity of an own range, weighted hand by hand, against the opponent's root range at one node:
-// counted exactly on a complete board, sampled from a node-seeded generator before the river.
+// Showdown equity of a weighted own range against the opponent's root range, exact or sampled.
 
 #include <cstdint>
 #include <limits>

@@ -1,6 +1,5 @@
 #pragma once
-// What every solution query shares: the live game and solver, the decision-node guard, the path and
-// reach to a node, the opponent's unblocked mass and the conversion of traversal values to chips.
+// Common ground of the solution queries: live objects, node guard, path reach, masses and chip values.
 
 #include <cstdint>
 #include <optional>

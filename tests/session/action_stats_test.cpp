@@ -75,7 +75,9 @@ TEST(ActionStats, RootRowsMatchTheSolverAndACombosCount) {
         for (double x : t) combos += x;
         EXPECT_NEAR(stats.combos[a], combos, 1e-9);
         total += stats.combos[a];
-        if (combos > 0.0) EXPECT_NEAR(stats.equities[a], brute_force_equity(game, 0, t), 1e-9);
+        if (combos > 0.0) {
+            EXPECT_NEAR(stats.equities[a], brute_force_equity(game, 0, t), 1e-9);
+        }
         EXPECT_TRUE(std::isfinite(stats.evs[a]));
     }
     double range = 0.0;
@@ -135,8 +137,11 @@ TEST(ActionStats, EquitiesRepeatAcrossCalls) {
         ASSERT_TRUE(first.valid && second.valid);
         ASSERT_EQ(first.equities.size(), second.equities.size());
         for (std::size_t a = 0; a < first.equities.size(); ++a) {
-            if (std::isnan(first.equities[a])) EXPECT_TRUE(std::isnan(second.equities[a]));
-            else EXPECT_EQ(first.equities[a], second.equities[a]);
+            if (std::isnan(first.equities[a])) {
+                EXPECT_TRUE(std::isnan(second.equities[a]));
+                continue;
+            }
+            EXPECT_EQ(first.equities[a], second.equities[a]);
             EXPECT_GE(first.equities[a], 0.0);
             EXPECT_LE(first.equities[a], 1.0);
         }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 #include "session/action_stats.h"
@@ -216,8 +217,16 @@ TEST(SolutionView, HalfPotLeavesUncalledBetsOut) {
 
 TEST(SolutionView, ActionTextsUseTheNodesPot) {
     const Game& game = *solution_of(river_spot).game;
-    EXPECT_EQ(node_action_names(game, 0), (std::vector<std::string>{"Check", "Bet 75%", "All-In"}));
-    EXPECT_EQ(node_action_types(game, 0), (std::vector<std::string>{"check", "bet 75%", "allin"}));
+    EXPECT_EQ(node_action_names(game, 0), (std::vector<std::string>{"Check", "Bet 75%"}));
+    EXPECT_EQ(node_action_types(game, 0), (std::vector<std::string>{"check", "bet 75%"}));
+    // Facing the bet, sizes are a share of the node's pot of 175, not of the starting pot.
+    const std::uint64_t facing_bet = child_by_type(game, 0, "bet");
+    ASSERT_EQ(game.node(facing_bet).pot, 175);
+    const std::size_t raise = action_by_type(game, facing_bet, "raise");
+    const double percent = game.node(facing_bet).actions[raise].amount / 175.0 * 100.0;
+    char expected[32];
+    std::snprintf(expected, sizeof expected, "Raise %.0f%%", percent);
+    EXPECT_EQ(node_action_names(game, facing_bet)[raise], expected);
     EXPECT_TRUE(node_action_names(game, game.node_count()).empty());
 }
 

@@ -1,6 +1,5 @@
 #pragma once
-// Spots solved once per test program through the session, and helpers to find nodes and compare
-// the queries with brute-force counts over the ranges.
+// Small spots solved once per test program through the session, and helpers to find their nodes.
 
 #include <chrono>
 #include <cstdint>
@@ -62,7 +61,7 @@ inline SolveConfig turn_spot() {
         seat->turn.bet_sizes = "50%";
         seat->river.bet_sizes = "50%";
     }
-    config.max_iterations = 40;
+    config.max_iterations = 100;
     config.target_exploitability = 0.0f;
     return config;
 }
