@@ -9,6 +9,5 @@ bin="$root/build/bin"
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec "$bin/orvanthis" "$@"
 fi
-echo "No display found: evaluating an example hand and range with orvanthis-cli instead."
-"$bin/orvanthis-cli" eval "AhKh Qh Jh Th 2c 3d"
-exec "$bin/orvanthis-cli" range "AA,KK,QQ,JJ,TT,AK,AQs"
+echo "No display found: solving the default spot with orvanthis-cli instead."
+exec "$bin/orvanthis-cli" solve "$root/bench/spots/default.json" --threads "$(nproc)" --line ""

@@ -8,6 +8,10 @@
 #include <optional>
 #include <vector>
 
+#include "session/action_stats.h"
+#include "session/bucket_table.h"
+#include "session/hand_strategy.h"
+
 namespace kelvane_cli {
 namespace {
 
@@ -36,6 +40,60 @@ std::optional<std::uint32_t> child_named(const kelvane_app::ResultNode& node, co
     return action->child_index;
 }
 
+template <typename Number>
+QJsonArray number_array(const std::vector<Number>& values) {
+    QJsonArray array;
+    for (Number value : values) array.append(static_cast<double>(value));
+    return array;
+}
+
+// Classes with weight, each with its action probabilities in node order.
+QJsonObject hands_json(const kelvane_app::HandStrategy& strategy) {
+    QJsonObject hands;
+    const std::size_t actions = strategy.action_names.size();
+    for (std::size_t label = 0; label < strategy.labels.size(); ++label) {
+        if (!(strategy.weights[label] > 0.0f)) continue;
+        QJsonArray probabilities;
+        for (std::size_t a = 0; a < actions; ++a)
+            probabilities.append(static_cast<double>(strategy.action_probs[label * actions + a]));
+        hands.insert(QString::fromStdString(strategy.labels[label]),
+                     QJsonObject{{"weight", static_cast<double>(strategy.weights[label])},
+                                 {"strategy", probabilities}});
+    }
+    return hands;
+}
+
+QJsonArray action_stats_json(const kelvane_app::NodeActionStats& stats) {
+    QJsonArray list;
+    for (std::size_t a = 0; a < stats.names.size(); ++a)
+        list.append(QJsonObject{
+            {"name", QString::fromStdString(stats.names[a])},
+            {"frequency", static_cast<double>(stats.frequencies[a])},
+            {"combos", stats.combos[a]},
+            {"equity", stats.equities[a]},
+            {"ev", stats.evs[a]},
+        });
+    return list;
+}
+
+QJsonArray buckets_json(const kelvane_app::HandBuckets& buckets) {
+    QJsonArray list;
+    for (const kelvane_app::HandBucketRow& row : buckets.rows)
+        list.append(QJsonObject{{"name", QString::fromStdString(row.name)},
+                                {"combos", row.combos},
+                                {"action_probs", number_array(row.action_probs)}});
+    return list;
+}
+
+void add_hand_parts(QJsonObject& json, const kelvane_app::SolveSession& session, std::uint32_t index) {
+    const kelvane_app::HandStrategy strategy = kelvane_app::hand_strategy(session, index);
+    if (strategy.valid) json.insert("hands", hands_json(strategy));
+    const kelvane_app::NodeActionStats stats = kelvane_app::action_stats(session, index);
+    if (stats.valid) json.insert("action_stats", action_stats_json(stats));
+    const kelvane_app::HandBuckets buckets = kelvane_app::hand_buckets(session, index);
+    if (buckets.valid) json.insert("buckets", buckets_json(buckets));
+}
+
 QJsonObject node_json(const kelvane_app::SolveResult& result, std::uint32_t index) {
     const kelvane_app::ResultNode& node = result.nodes[index];
     QJsonArray names;
@@ -46,7 +104,6 @@ QJsonObject node_json(const kelvane_app::SolveResult& result, std::uint32_t inde
         types.append(QString::fromStdString(action.action_type));
         frequencies.append(static_cast<double>(action.frequency));
     }
-    // Per-hand parts (hands, action_stats, buckets) need the solution queries on the live solver.
     return {
         {"node_index", static_cast<qint64>(index)},
         {"node_type", QString::fromStdString(node.node_type)},
@@ -60,20 +117,19 @@ QJsonObject node_json(const kelvane_app::SolveResult& result, std::uint32_t inde
 
 }  // namespace
 
-QJsonObject line_json(const kelvane_app::SolveResult& result, const std::string& line) {
-    const QString text = QString::fromStdString(line);
-    if (result.nodes.empty()) return {{"line", text}, {"error", "The result holds no tree"}};
+QJsonObject line_json(const kelvane_app::SolveSession& session, const kelvane_app::SolveResult& result,
+                      const std::string& line) {
+    if (result.nodes.empty()) return {{"error", "The result holds no tree"}};
     std::uint32_t index = 0;
     for (const std::string& name : line_actions(line)) {
         const std::optional<std::uint32_t> child = child_named(result.nodes[index], name);
         if (!child || *child >= result.nodes.size())
-            return {{"line", text},
-                    {"error", QString::fromStdString("Action '" + name + "' not found at node " +
+            return {{"error", QString::fromStdString("Action '" + name + "' not found at node " +
                                                      std::to_string(index))}};
         index = *child;
     }
     QJsonObject json = node_json(result, index);
-    json.insert("line", text);
+    add_hand_parts(json, session, index);
     return json;
 }
 

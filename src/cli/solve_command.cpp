@@ -171,12 +171,14 @@ QJsonArray root_actions_json(const kelvane_app::SolveResult& result) {
     return actions;
 }
 
-QJsonObject result_json(const kelvane_app::SolveResult& result, const kelvane_app::SolveConfig& config,
-                        const RunWatch& watch, std::uint64_t estimate_bytes, const SolveOptions& options) {
+QJsonObject result_json(const kelvane_app::SolveSession& session, const kelvane_app::SolveResult& result,
+                        const kelvane_app::SolveConfig& config, const RunWatch& watch, std::uint64_t estimate_bytes,
+                        const SolveOptions& options) {
     const double pot = result.starting_pot > 0 ? result.starting_pot : 0.0;
     const double solve_ms = watch.solve_ms();
-    QJsonArray lines;
-    for (const std::string& line : options.lines) lines.append(line_json(result, line));
+    QJsonObject lines;
+    for (const std::string& line : options.lines)
+        lines.insert(QString::fromStdString(line), line_json(session, result, line));
     return {
         {"success", result.success},
         {"error", QString::fromStdString(result.error)},
@@ -233,7 +235,7 @@ int run_solve(const Arguments& args) {
     const kelvane_app::SolveResult result = watch.wait(session);
     std::signal(SIGINT, SIG_DFL);
 
-    const bool written = write_json(result_json(result, config, watch, estimate_bytes, options), options.output);
+    const bool written = write_json(result_json(session, result, config, watch, estimate_bytes, options), options.output);
     return result.success && written ? kExitOk : kExitFailure;
 }
 

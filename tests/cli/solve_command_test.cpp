@@ -70,18 +70,47 @@ TEST(SolveCommand, RiverSpotEndToEnd) {
     EXPECT_NEAR(root[0].toObject().value("frequency").toDouble() + root[1].toObject().value("frequency").toDouble(),
                 1.0, 1e-5);
 
-    const QJsonArray lines = json.value("lines").toArray();
+    const QJsonObject lines = json.value("lines").toObject();
     ASSERT_EQ(lines.size(), 3);
-    EXPECT_EQ(lines[0].toObject().value("node_index").toInt(), 0);
-    EXPECT_EQ(lines[0].toObject().value("player").toString(), "OOP");
-    const QJsonObject river_node = lines[1].toObject();
-    EXPECT_EQ(river_node.value("line").toString(), "Check,Bet 75%");
+    EXPECT_EQ(lines.value("").toObject().value("node_index").toInt(), 0);
+    EXPECT_EQ(lines.value("").toObject().value("player").toString(), "OOP");
+    const QJsonObject river_node = lines.value("Check,Bet 75%").toObject();
     EXPECT_EQ(river_node.value("player").toString(), "OOP");
-    EXPECT_EQ(river_node.value("action_names").toArray().first().toString(), "Fold");
+    const QJsonArray names = river_node.value("action_names").toArray();
+    EXPECT_EQ(names.first().toString(), "Fold");
     EXPECT_EQ(river_node.value("action_types").toArray().size(), river_node.value("action_frequencies").toArray().size());
-    EXPECT_TRUE(lines[2].toObject().value("error").toString().startsWith("Action 'Raise 999%' not found at node "))
-        << lines[2].toObject().value("error").toString().toStdString();
-    EXPECT_FALSE(lines[2].toObject().contains("node_index"));
+
+    // Per-hand parts come from the live solution: every class row is a distribution over the node's actions.
+    const QJsonObject hands = river_node.value("hands").toObject();
+    ASSERT_FALSE(hands.isEmpty());
+    EXPECT_TRUE(hands.contains("AA"));
+    for (const QString& label : hands.keys()) {
+        const QJsonObject hand = hands.value(label).toObject();
+        EXPECT_GT(hand.value("weight").toDouble(), 0.0) << label.toStdString();
+        const QJsonArray strategy = hand.value("strategy").toArray();
+        ASSERT_EQ(strategy.size(), names.size()) << label.toStdString();
+        double sum = 0.0;
+        for (const QJsonValue& p : strategy) sum += p.toDouble();
+        EXPECT_NEAR(sum, 1.0, 1e-4) << label.toStdString();
+    }
+    const QJsonArray stats = river_node.value("action_stats").toArray();
+    ASSERT_EQ(stats.size(), names.size());
+    for (int a = 0; a < stats.size(); ++a) {
+        const QJsonObject stat = stats[a].toObject();
+        EXPECT_EQ(stat.value("name").toString(), names[a].toString());
+        for (const char* key : {"frequency", "combos", "equity", "ev"}) EXPECT_TRUE(stat.contains(key)) << key;
+    }
+    const QJsonArray buckets = river_node.value("buckets").toArray();
+    ASSERT_FALSE(buckets.isEmpty());
+    for (const QJsonValue& bucket : buckets) {
+        EXPECT_FALSE(bucket.toObject().value("name").toString().isEmpty());
+        EXPECT_EQ(bucket.toObject().value("action_probs").toArray().size(), names.size());
+    }
+
+    const QJsonObject bad_line = lines.value("Bet 75%,Raise 999%").toObject();
+    EXPECT_TRUE(bad_line.value("error").toString().startsWith("Action 'Raise 999%' not found at node "))
+        << bad_line.value("error").toString().toStdString();
+    EXPECT_FALSE(bad_line.contains("node_index"));
 
     const QStringList status = lines_of(run.err);
     ASSERT_GE(status.size(), 6);
