@@ -1,4 +1,5 @@
-// The process log: every line goes to two files, one beside the executable and one in the temporary directory.
+// The process log: every line goes to two files, one beside the executable and one in the temporary
+// directory.
 #pragma once
 
 #include <QDateTime>
@@ -33,22 +34,22 @@ void log_message_handler(QtMsgType type, const QMessageLogContext& context, cons
 // Owns the two log file objects. Construction fixes the paths that append_to_both and the crash hooks
 // write to, for the rest of the process; the files join the message handler's list only when opened.
 class AppLog {
- public:
-  AppLog(const QString& app_dir, const QString& temp_dir);
-  ~AppLog();
-  AppLog(const AppLog&) = delete;
-  AppLog& operator=(const AppLog&) = delete;
+  public:
+    AppLog(const QString& app_dir, const QString& temp_dir);
+    ~AppLog();
+    AppLog(const AppLog&) = delete;
+    AppLog& operator=(const AppLog&) = delete;
 
-  // Opens each file for appending; those that open take the message handler's lines.
-  void open();
-  std::size_t open_count() const;
+    // Opens each file for appending; those that open take the message handler's lines.
+    void open();
+    std::size_t open_count() const;
 
-  QString app_log_path() const { return app_file_.fileName(); }
-  QString temp_log_path() const { return temp_file_.fileName(); }
+    QString app_log_path() const { return app_file_.fileName(); }
+    QString temp_log_path() const { return temp_file_.fileName(); }
 
- private:
-  QFile app_file_;
-  QFile temp_file_;
+  private:
+    QFile app_file_;
+    QFile temp_file_;
 };
 
 }  // namespace kelvane_app

@@ -7,8 +7,8 @@
 namespace kelvane_app {
 
 struct LaunchOptions {
-  QUrl root_document = QUrl(QStringLiteral("qrc:/Kelvane/Main.qml"));
-  QString app_dir;  // where the first log lives; empty means the executable's directory
+    QUrl root_document = QUrl(QStringLiteral("qrc:/Kelvane/Main.qml"));
+    QString app_dir;  // where the first log lives; empty means the executable's directory
 };
 
 // Runs the application to its end and returns the exit code: that of the event loop, or -1 when the root

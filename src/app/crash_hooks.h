@@ -9,15 +9,15 @@ namespace kelvane_app {
 
 // A line of bounded length composed without allocation, so that crash handlers can build their text.
 class CrashLine {
- public:
-  CrashLine& append(std::string_view text) noexcept;
-  CrashLine& append_decimal(std::int64_t value) noexcept;
-  CrashLine& append_hex(std::uint64_t value) noexcept;  // lower case, no padding, no prefix
-  std::string_view view() const noexcept { return {text_.data(), size_}; }
+  public:
+    CrashLine& append(std::string_view text) noexcept;
+    CrashLine& append_decimal(std::int64_t value) noexcept;
+    CrashLine& append_hex(std::uint64_t value) noexcept;  // lower case, no padding, no prefix
+    std::string_view view() const noexcept { return {text_.data(), size_}; }
 
- private:
-  std::array<char, 160> text_{};
-  std::size_t size_ = 0;
+  private:
+    std::array<char, 160> text_{};
+    std::size_t size_ = 0;
 };
 
 // "FATAL: <kind> code=0x<code> addr=<address>", both numbers in hexadecimal.

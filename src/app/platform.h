@@ -25,8 +25,8 @@ void install_signal_hooks(SignalHook hook) noexcept;
 
 // Both zero when the system does not tell.
 struct PhysicalMemory {
-  std::uint64_t total_bytes = 0;
-  std::uint64_t available_bytes = 0;
+    std::uint64_t total_bytes = 0;
+    std::uint64_t available_bytes = 0;
 };
 
 PhysicalMemory physical_memory() noexcept;
