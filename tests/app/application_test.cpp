@@ -1,6 +1,7 @@
 // Tests of start-up: the order and text of the start-up lines, both logs, fallbacks and the exit codes.
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QtQml/qqmlextensionplugin.h>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -25,6 +26,20 @@ Window {
 )";
 
 const char* const unparsable_document = "import QtQuick\nWindow { width: }\n";
+
+// Creates the real root window beside itself and reports what its documents can see.
+const char* const probing_document = R"(import QtQuick
+Window {
+    Component.onCompleted: {
+        const main = Qt.createComponent("qrc:/Kelvane/Main.qml").createObject(null);
+        const shell = main ? main.contentItem.children[0] : null;
+        console.info("probe appController=" + (typeof appController !== "undefined" && appController !== null)
+                     + " languageManager=" + (typeof languageManager !== "undefined" && languageManager !== null)
+                     + " shellController=" + (shell !== null && shell.controller === appController));
+        Qt.exit(3);
+    }
+}
+)";
 
 struct Launch {
     QString app_dir;
@@ -204,6 +219,18 @@ class ApplicationTest : public QObject {
         QVERIFY(!output.contains("Starting Orvanthis"));
     }
 
+    void the_root_window_sees_both_context_properties() {
+        const QString app_dir = make_dir(QStringLiteral("probe/app"));
+        const QString temp_dir = make_dir(QStringLiteral("probe/temp"));
+        const QUrl root = write_document(work_, QStringLiteral("Probe.qml"), probing_document);
+        const auto end = launch_in_child({.app_dir = app_dir, .temp_dir = temp_dir, .root = root});
+        QVERIFY(end.exited);
+        QCOMPARE(end.exit_code, document_exit_code);
+        const QStringList info = messages(kelvane_test::read_lines(log_in(temp_dir)), QStringLiteral("INFO"));
+        QVERIFY2(info.contains(QStringLiteral("probe appController=true languageManager=true shellController=true")),
+                 qPrintable(info.join(QLatin1Char('\n'))));
+    }
+
     void a_missing_root_document_ends_with_minus_one() {
         const QString app_dir = make_dir(QStringLiteral("missing/app"));
         const QString temp_dir = make_dir(QStringLiteral("missing/temp"));
@@ -232,6 +259,9 @@ class ApplicationTest : public QObject {
         QVERIFY(!messages(lines, QStringLiteral("WARN")).filter(QStringLiteral("Broken.qml")).isEmpty());
     }
 };
+
+// The module is linked statically, as in the application.
+Q_IMPORT_QML_PLUGIN(KelvanePlugin)
 
 QTEST_APPLESS_MAIN(ApplicationTest)
 #include "application_test.moc"
