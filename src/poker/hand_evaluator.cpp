@@ -33,15 +33,42 @@ struct RankPattern {
     RankMask held[5] = {};  // held[n]: ranks held exactly n times, n = 1 to 4
 };
 
+// Repeated cards are not refused, and each copy counts towards its rank as a separate card would;
+// a rank held five times or more is in none of the held masks.
+RankPattern tally_counting_each_card(std::span<const Card> cards) {
+    std::array<int, kRankCount> held_count{};
+    RankPattern pattern;
+    for (const Card card : cards) {
+        const RankMask bit = RankMask{1} << rank_of(card);
+        ++held_count[static_cast<std::size_t>(rank_of(card))];
+        pattern.all |= bit;
+        pattern.by_suit[suit_of(card)] |= bit;
+    }
+    for (int rank = 0; rank < kRankCount; ++rank) {
+        const int count = held_count[static_cast<std::size_t>(rank)];
+        if (count >= 1 && count <= 4) pattern.held[count] |= RankMask{1} << rank;
+    }
+    return pattern;
+}
+
 // The four suit masks travel in one 64-bit word, a lane per suit, so dealing a card is one
-// shift and one OR and the cards carry no dependency chain. How often a rank is held follows
-// from ANDs of the suit masks. Duplicates are not checked; a repeated card counts once.
-[[gnu::always_inline]] inline RankPattern tally(std::span<const Card> cards) {
+// shift and one OR and the cards carry no dependency chain.
+[[gnu::always_inline]] inline std::uint64_t suit_word(std::span<const Card> cards) {
     std::uint64_t suits = 0;
     for (const Card card : cards) {
         if (card >= kCardCount) throw std::out_of_range("Card code must be in [0, 52)");
         suits |= std::uint64_t{1} << (suit_of(card) * kSuitLane + rank_of(card));
     }
+    return suits;
+}
+
+// A repeated card vanishes in the suit word, so its bit count tells whether every card is distinct.
+[[gnu::always_inline]] inline bool all_distinct(std::uint64_t suits, std::span<const Card> cards) {
+    return static_cast<std::size_t>(std::popcount(suits)) == cards.size();
+}
+
+// How often a rank is held follows from ANDs of the suit masks when no card repeats.
+[[gnu::always_inline]] inline RankPattern pattern_of_distinct(std::uint64_t suits) {
     RankPattern pattern;
     for (int suit = 0; suit < kSuitCount; ++suit)
         pattern.by_suit[suit] = static_cast<RankMask>(suits >> (kSuitLane * suit)) & kAllRanks;
@@ -92,10 +119,7 @@ constexpr HandStrength make_strength(Category category, RankMask primary, RankMa
     return (HandStrength{category} << kCategoryShift) | (primary << kPrimaryShift) | secondary;
 }
 
-}  // namespace
-
-HandStrength evaluate_seven(const std::array<Card, 7>& cards) {
-    const RankPattern p = tally(cards);
+[[gnu::always_inline]] inline HandStrength strength_of(const RankPattern& p) {
     if (const RankMask flush = flush_ranks(p)) {
         if (const RankMask top = straight_top(flush)) return make_strength(kStraightFlush, top);
         return make_strength(kFlush, highest_bits(flush, 5));
@@ -116,6 +140,31 @@ HandStrength evaluate_seven(const std::array<Card, 7>& cards) {
     return make_strength(kHighCard, highest_bits(p.all, 5));
 }
 
+[[gnu::always_inline]] inline int category_of(const RankPattern& p) {
+    if (const RankMask flush = flush_ranks(p)) return straight_top(flush) ? kStraightFlush : kFlush;
+    if (p.held[4]) return kFourOfAKind;
+    if (std::popcount(p.held[3]) >= 2) return kFullHouse;
+    if (p.held[3] && p.held[2]) return kFullHouse;
+    if (straight_top(p.all)) return kStraight;
+    if (p.held[3]) return kThreeOfAKind;
+    if (std::popcount(p.held[2]) >= 2) return kTwoPair;
+    if (p.held[2]) return kOnePair;
+    return kHighCard;
+}
+
+[[gnu::noinline]] HandStrength strength_counting_each_card(std::span<const Card> cards) {
+    return strength_of(tally_counting_each_card(cards));
+}
+
+}  // namespace
+
+HandStrength evaluate_seven(const std::array<Card, 7>& cards) {
+    const std::uint64_t suits = suit_word(cards);
+    if (!all_distinct(suits, cards)) [[unlikely]]
+        return strength_counting_each_card(cards);
+    return strength_of(pattern_of_distinct(suits));
+}
+
 HandStrength evaluate_on_board(Pocket pocket, std::span<const Card> board) {
     if (board.size() != 5) throw std::invalid_argument("Board must contain exactly 5 cards for evaluation");
     std::array<Card, 7> cards{pocket.first, pocket.second};
@@ -127,16 +176,8 @@ HandStrength evaluate_on_board(Pocket pocket, std::span<const Card> board) {
 
 int hand_category(std::span<const Card> cards) {
     if (cards.size() < 5 || cards.size() > 7) return kHighCard;
-    const RankPattern p = tally(cards);
-    if (const RankMask flush = flush_ranks(p)) return straight_top(flush) ? kStraightFlush : kFlush;
-    if (p.held[4]) return kFourOfAKind;
-    if (std::popcount(p.held[3]) >= 2) return kFullHouse;
-    if (p.held[3] && p.held[2]) return kFullHouse;
-    if (straight_top(p.all)) return kStraight;
-    if (p.held[3]) return kThreeOfAKind;
-    if (std::popcount(p.held[2]) >= 2) return kTwoPair;
-    if (p.held[2]) return kOnePair;
-    return kHighCard;
+    const std::uint64_t suits = suit_word(cards);
+    return category_of(all_distinct(suits, cards) ? pattern_of_distinct(suits) : tally_counting_each_card(cards));
 }
 
 }  // namespace kelvane

@@ -255,6 +255,15 @@ TEST(EvaluateSeven, DoesNotLookForDuplicates) {
     EXPECT_NO_THROW(evaluate_seven(seven("Ah Ah Ah Ah Ah Ah Ah")));
 }
 
+// Each copy of a repeated card counts towards its rank, as a separate card of that rank would.
+TEST(EvaluateSeven, RepeatedCardsCountTowardsTheirRank) {
+    EXPECT_EQ(evaluate_seven(seven("Ah Ah Kd 9c 7s 5h 2c")), evaluate_seven(seven("Ah As Kd 9c 7s 5h 2c")));
+    EXPECT_EQ(strength_category(evaluate_seven(seven("Ah Ah Ah Kd Kd 5h 2c"))), 6);
+    // A rank held five times or more is in none of the count masks: only the all-ranks mask sees it.
+    EXPECT_EQ(evaluate_seven(seven("Ah Ah Ah Ah Ah Kd Qc")), strength(0, bit(12) | bit(11) | bit(10)));
+    EXPECT_EQ(hand_category(cards_of("Ah Ah Kd 9c 7s")), 1);
+}
+
 TEST(EvaluateSeven, RejectsCodesBeyondTheDeck) {
     std::array<Card, 7> hand = seven("Ah Kd 9c 7s 5h 3d 2c");
     hand[6] = 52;
