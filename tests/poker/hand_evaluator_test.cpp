@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "expect_error.h"
+#include "support/expect_error.h"
 
 namespace kelvane {
 namespace {

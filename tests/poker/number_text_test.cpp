@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "expect_error.h"
+#include "support/expect_error.h"
 
 namespace kelvane {
 namespace {

@@ -8,20 +8,13 @@
 #include <stdexcept>
 #include <string>
 
+#include "support/expect_error.h"
 #include "tree/chips.h"
 
 namespace kelvane {
 namespace {
 
-template <typename Error, typename Call>
-void expect_error(Call call, const std::string& text) {
-    try {
-        call();
-        ADD_FAILURE() << "no error; expected: " << text;
-    } catch (const Error& error) {
-        EXPECT_EQ(error.what(), text);
-    }
-}
+using kelvane_test::expect_error;
 
 SizingContext node(std::int32_t pot, std::int32_t current_bet, std::int32_t min_to, std::int32_t max_to) {
     SizingContext context;

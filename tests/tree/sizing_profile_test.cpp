@@ -7,18 +7,12 @@
 #include <stdexcept>
 #include <string>
 
+#include "support/expect_error.h"
+
 namespace kelvane {
 namespace {
 
-template <typename Error, typename Call>
-void expect_error(Call call, const std::string& text) {
-    try {
-        call();
-        ADD_FAILURE() << "no error; expected: " << text;
-    } catch (const Error& error) {
-        EXPECT_EQ(error.what(), text);
-    }
-}
+using kelvane_test::expect_error;
 
 const std::string kPercentMessage = "Sizing: invalid token '%'. Use numbers like '33, 75' or '33%, 75%'";
 

@@ -25,6 +25,11 @@ template <class Error, class Call>
     return ::testing::AssertionFailure() << "nothing thrown; expected '" << text << "'";
 }
 
+template <class Error, class Call>
+void expect_error(Call&& call, std::string_view text) {
+    EXPECT_TRUE(throws_error<Error>(call, text));
+}
+
 }  // namespace kelvane_test
 
 #define EXPECT_ERROR(kind, statement, text) \
