@@ -45,6 +45,6 @@ for log in "$logs"/*.log; do
   failed=$((failed + bad))
 done
 echo
-echo "All suites: $passed passed, $failed failed"
+echo "Total: $passed passed, $failed failed"
 [ "$failed" -eq 0 ] || status=1
 exit $status
