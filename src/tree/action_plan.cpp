@@ -170,14 +170,18 @@ std::vector<ActionPlan::Child> ActionPlan::deal_children(const PlanNode& node, c
         dealt.seat = kSeatOop;
         dealt.street = static_cast<std::uint8_t>(dealing_turn ? kStreetTurn : kStreetRiver);
         dealt.committed = node.committed;
-        dealt.pot = node.pot;
-        dealt.invested = node.invested;
-        dealt.turn_card = next.turn_card;
-        dealt.river_card = next.river_card;
-        dealt.terminal_kind = next.last_action;
-        dealt.folded_seat = next.last_seat;
+        take_from_context(dealt, next);
     }
     return children;
+}
+
+void ActionPlan::take_from_context(PlanNode& node, const BuildContext& context) {
+    node.pot = context.pot;
+    node.invested = context.invested;
+    node.turn_card = context.turn_card;
+    node.river_card = context.river_card;
+    node.terminal_kind = context.last_action;
+    node.folded_seat = context.last_seat;
 }
 
 }  // namespace kelvane

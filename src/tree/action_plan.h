@@ -98,6 +98,8 @@ private:
     static Child decision_child(const PlanNode& node, const BuildContext& context, const Action& action,
                                 const SizingContext& sizing);
     std::vector<Child> deal_children(const PlanNode& node, const BuildContext& context) const;
+    // The money and cards a new node shows, and the action that led to it, from its build context.
+    static void take_from_context(PlanNode& node, const BuildContext& context);
     std::vector<Card> chance_candidates(const BuildContext& context) const;
 
     GameConfig config_;

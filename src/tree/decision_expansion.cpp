@@ -254,12 +254,7 @@ ActionPlan::Child ActionPlan::decision_child(const PlanNode& node, const BuildCo
         }
     }
 
-    out.pot = next.pot;
-    out.invested = next.invested;
-    out.turn_card = next.turn_card;
-    out.river_card = next.river_card;
-    out.terminal_kind = next.last_action;
-    out.folded_seat = next.last_seat;
+    take_from_context(out, next);
     return child;
 }
 
