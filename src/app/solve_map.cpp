@@ -69,6 +69,7 @@ SolveConfig solveConfigFromMap(const QVariantMap& map) {
     config.max_iterations = map.value("max_iterations", 2000u).toUInt();
     config.target_exploitability = static_cast<float>(map.value("target_exploitability", 0.1).toDouble());
     config.thread_count = map.value("thread_count", 1u).toUInt();
+    config.showdown_early_stop = map.value("showdown_early_stop", false).toBool();
     config.oop_range = text(map, "oop_range");
     config.ip_range = text(map, "ip_range");
     config.oop_jam_threshold_pct = jamThreshold(map, "oop");

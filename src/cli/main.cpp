@@ -22,7 +22,8 @@ constexpr Command kCommands[] = {
     {"tree", "tree SPOT.json                  size of the betting tree of a spot file", kelvane_cli::run_tree},
     {"estimate", "estimate SPOT.json              memory estimate of a solve as JSON", kelvane_cli::run_estimate},
     {"solve", "solve SPOT.json [--threads N] [--max-iterations N] [--target-pct P] [--compress]\n"
-              "                [--quiet] [--output FILE] [--line TEXT]...   solve a spot, result as JSON",
+              "                [--showdown-early-stop] [--quiet] [--output FILE] [--line TEXT]...\n"
+              "                                                solve a spot, result as JSON",
      kelvane_cli::run_solve},
 };
 

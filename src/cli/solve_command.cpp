@@ -49,6 +49,7 @@ struct SolveOptions {
     std::optional<std::uint32_t> max_iterations;
     std::optional<double> target_pct;  // of the starting pot
     bool compress = false;
+    bool showdown_early_stop = false;
     bool quiet = false;
     std::string output;
     std::vector<std::string> lines;
@@ -75,6 +76,7 @@ SolveOptions parse_options(const Arguments& args) {
         else if (arg == "--max-iterations") options.max_iterations = parse_number<std::uint32_t>(value(), arg);
         else if (arg == "--target-pct") options.target_pct = parse_number<double>(value(), arg);
         else if (arg == "--compress") options.compress = true;
+        else if (arg == "--showdown-early-stop") options.showdown_early_stop = true;
         else if (arg == "--quiet") options.quiet = true;
         else if (arg == "--output") options.output = value();
         else if (arg == "--line") options.lines.push_back(value());
@@ -93,6 +95,7 @@ kelvane_app::SolveConfig make_config(const SolveOptions& options) {
     if (options.max_iterations) config.max_iterations = *options.max_iterations;
     if (options.target_pct) config.target_exploitability = static_cast<float>(*options.target_pct / 100.0 * config.starting_pot);
     if (options.compress) config.solver_flag = true;
+    if (options.showdown_early_stop) config.showdown_early_stop = true;
     return config;
 }
 

@@ -37,6 +37,7 @@ struct SolveConfig {
     float target_exploitability = 0.1f;  // chips
     std::uint64_t thread_count = 1;
     bool solver_flag = false;
+    bool showdown_early_stop = false;  // the earlier, inexact showdown payoff; for comparison only
     std::string oop_range;
     std::string ip_range;
     SeatSizing oop;

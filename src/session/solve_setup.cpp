@@ -40,6 +40,7 @@ kelvane::GameConfig make_game_config(const SolveConfig& config, SizingErrors err
     game.effective_stack = config.effective_stack;
     game.rake_fraction = config.rake_percent / 100.0;
     game.rake_cap = config.rake_cap;
+    game.showdown_early_stop = config.showdown_early_stop;
     game.oop_jam_threshold = jam_threshold(config.oop_jam_threshold_pct);
     game.ip_jam_threshold = jam_threshold(config.ip_jam_threshold_pct);
     // Every street is compiled, also those before the start, so a bad flop text fails a river solve.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 
 #include "solver/game.h"
@@ -59,6 +60,7 @@ struct Sweep {
     std::span<const Pocket> opponent_pockets;
     std::span<const std::uint16_t> same_pocket;
     std::span<const float> reach;
+    bool early_stop;
 
     bool has_hands() const { return own_row.size() >= kMinRowEntries && opponent_row.size() >= kMinRowEntries; }
 
@@ -70,17 +72,35 @@ struct Sweep {
     float identical_combo_reach(std::uint16_t own) const { return reach_of_same_pocket(same_pocket, own, reach); }
 };
 
-Sweep sweep_on(const CardContext& cards, Seat seat, Card turn, Card river, std::span<const float> opponent_reach) {
+Sweep sweep_on(const Game& game, Seat seat, Card turn, Card river, std::span<const float> opponent_reach) {
+    const CardContext& cards = game.cards();
     const ShowdownRow& row = cards.showdown_row(turn, river);
     const Seat other = seat ^ 1;
-    return {row[seat], row[other], cards.pockets[seat], cards.pockets[other], cards.same_pocket[seat], opponent_reach};
+    return {row[seat],           row[other],     cards.pockets[seat],
+            cards.pockets[other], cards.same_pocket[seat], opponent_reach,
+            game.config().showdown_early_stop};
+}
+
+// The rake of a pot: a cap or a percentage that is not above 0 means none.
+double rake_of(double pot, const GameConfig& config) {
+    if (config.rake_cap <= 0.0 || config.rake_fraction <= 0.0 || pot <= 0.0) return 0.0;
+    return std::min(config.rake_cap, pot * config.rake_fraction);
+}
+
+// The earlier rule, kept with the early stop so that the comparison setting reproduces old values:
+// a cap of 0 took the whole percentage in showdowns paid from the node's pot.
+double early_stop_rake_of(double pot, const GameConfig& config) {
+    if (pot <= 0.0) return pot;
+    double rake = config.rake_fraction > 0.0 ? pot * config.rake_fraction : 0.0;
+    if (config.rake_cap > 0.0) rake = std::min(config.rake_cap, rake);
+    return std::min(rake, pot);
 }
 
 double per_matchup(double chips, double total_matchups) { return total_matchups > 0.0 ? chips / total_matchups : 0.0; }
 
-// Strictly stronger hands win, strictly weaker lose, ties pay nothing. The downward pass stops right
-// after the first own hand that has passed the whole opposing row: weaker own hands keep only what
-// the upward pass gave them. That stop is part of the defined payoff and must stay.
+// Strictly stronger hands win, strictly weaker lose, ties pay nothing: every own hand is paid against
+// every opposing hand. With the early stop the downward pass ends right after the first own hand that
+// has passed the whole opposing row, and weaker own hands keep only what the upward pass gave them.
 bool two_pass_sweep(const Sweep& sweep, double win, double lose, std::span<float> out) {
     if (!sweep.has_hands()) return false;
     const auto& own_row = sweep.own_row;
@@ -106,7 +126,7 @@ bool two_pass_sweep(const Sweep& sweep, double win, double lose, std::span<float
             --above.cursor;
         }
         out[own.pocket] += static_cast<float>(mass_without(above, sweep.own_pockets[own.pocket]) * lose);
-        if (above.cursor == 0) break;
+        if (sweep.early_stop && above.cursor == 0) break;
     }
     return true;
 }
@@ -157,14 +177,9 @@ bool three_way_sweep(const Sweep& sweep, const ShowdownPayoffs& payoffs, std::sp
 // two-pass sweep otherwise. Returns whether both rows held hands.
 bool pot_showdown(const Sweep& sweep, double pot, const GameConfig& config, double total_matchups,
                   std::span<float> out) {
-    double after = 0.0;
-    if (pot > 0.0) {
-        double rake = config.rake_fraction > 0.0 ? pot * config.rake_fraction : 0.0;
-        if (config.rake_cap > 0.0) rake = std::min(config.rake_cap, rake);
-        after = std::max(pot - rake, 0.0);
-    }
+    const double taken = sweep.early_stop ? early_stop_rake_of(pot, config) : rake_of(pot, config);
     const double half = pot * 0.5;
-    if (!(std::abs(pot - after) > kRakeEpsilon))
+    if (!(std::abs(taken) > kRakeEpsilon))
         return two_pass_sweep(sweep, per_matchup(half, total_matchups), per_matchup(-half, total_matchups), out);
     const double rake = std::min(config.rake_cap, pot * config.rake_fraction);
     const ShowdownPayoffs payoffs{per_matchup(half - rake, total_matchups), per_matchup(-half, total_matchups),
@@ -196,7 +211,16 @@ void fold_values(const Game& game, std::uint64_t node, Seat seat, std::span<cons
     }
 }
 
-// Every missing turn and river card pair weighs the same; runouts whose rows hold no hands don't count.
+// The runouts that one pair of hands leaves possible: every unseen card but their four.
+double runouts_per_matchup(CardMask board, bool turn_missing) {
+    const double left = kCardCount - std::popcount(board) - 4;
+    return turn_missing ? left * (left - 1) / 2 : left;
+}
+
+// Every missing turn and river card pair weighs the same. A runout pays only the pairs of hands that
+// leave it possible, so the sum is divided by the number of runouts each pair sees, as a chance node
+// divides by its fixed card count. With the early stop the sum is divided by the runouts whose rows
+// hold hands, as before.
 void runout_average(const Game& game, std::uint64_t node, Seat seat, std::span<const float> opponent_reach,
                     std::span<float> out) {
     const GameNode& n = game.node(node);
@@ -207,7 +231,7 @@ void runout_average(const Game& game, std::uint64_t node, Seat seat, std::span<c
 
     const auto add_runout = [&](Card turn, Card river) {
         std::fill(runout_values.begin(), runout_values.end(), 0.0f);
-        const Sweep sweep = sweep_on(game.cards(), seat, turn, river, opponent_reach);
+        const Sweep sweep = sweep_on(game, seat, turn, river, opponent_reach);
         if (!pot_showdown(sweep, n.pot, game.config(), game.cards().total_matchups, runout_values)) return;
         for (std::size_t h = 0; h < out.size(); ++h) out[h] += runout_values[h];
         ++counted;
@@ -229,7 +253,10 @@ void runout_average(const Game& game, std::uint64_t node, Seat seat, std::span<c
         std::fill(out.begin(), out.end(), 0.0f);
         return;
     }
-    const float share = 1.0f / static_cast<float>(counted);
+    const double divisor = game.config().showdown_early_stop
+                               ? counted
+                               : runouts_per_matchup(board, n.turn_card == kNoCard);
+    const float share = 1.0f / static_cast<float>(divisor);
     for (float& value : out) value *= share;
 }
 
@@ -244,9 +271,9 @@ void Game::evaluate(std::uint64_t node, Seat seat, std::span<const float> oppone
     const GameNode& n = nodes_[node];
     const double total_matchups = cards_.total_matchups;
 
-    const std::int32_t pot_chips = config_.starting_pot + 2 * n.committed;
-    const double pot = pot_chips;
-    const double rake = std::min(config_.rake_cap, pot * config_.rake_fraction);
+    // Chip sums in 64 bits: a large pot must not wrap.
+    const double pot = static_cast<double>(std::int64_t{config_.starting_pot} + 2 * std::int64_t{n.committed});
+    const double rake = rake_of(pot, config_);
     const double win = per_matchup(pot / 2 - rake, total_matchups);
     const double lose = per_matchup(-(pot / 2), total_matchups);
 
@@ -260,7 +287,7 @@ void Game::evaluate(std::uint64_t node, Seat seat, std::span<const float> oppone
         runout_average(*this, node, seat, opponent_reach, out);
         return;
     }
-    const Sweep sweep = sweep_on(cards_, seat, n.turn_card, n.river_card, opponent_reach);
+    const Sweep sweep = sweep_on(*this, seat, n.turn_card, n.river_card, opponent_reach);
     if (std::abs(rake) > kRakeEpsilon)
         pot_showdown(sweep, n.pot, config_, total_matchups, out);
     else

@@ -8,6 +8,8 @@
 #include <thread>
 #include <utility>
 
+#include "tree/depth_first_order.h"
+
 namespace kelvane {
 namespace {
 
@@ -57,6 +59,8 @@ ActionPlan::ActionPlan(const GameConfig& config, const CardContext& cards)
     context.turn_card = board_.turn;
     context.river_card = board_.river;
     build_recursive(0, context, 0);
+    // Parallel workers append in the order they happen to run.
+    if (max_workers_ > 1) nodes_ = renumber_depth_first(std::move(nodes_));
 }
 
 void ActionPlan::build_recursive(std::uint64_t node_index, const BuildContext& context, std::uint64_t depth) {

@@ -33,15 +33,16 @@ bool is_sized(const Action& action) {
 }
 
 SizingContext sizing_context(const GameConfig& config, const PlanNode& node, const BuildContext& context) {
-    const std::int32_t own = context.stacks[node.seat];
-    const std::int32_t opp = context.stacks[other_seat(node.seat)];
+    const std::int64_t own = context.stacks[node.seat];
+    const std::int64_t opp = context.stacks[other_seat(node.seat)];
     SizingContext sizing;
-    sizing.to_call = own - opp;  // the stacks started equal
-    sizing.pot = config.starting_pot + 2 * (node.committed + sizing.to_call);
+    sizing.to_call = chip_sum(own - opp);  // the stacks started equal
+    sizing.pot = chip_sum(config.starting_pot + 2 * (std::int64_t{node.committed} + sizing.to_call));
     sizing.current_bet = context.current_bet;
-    sizing.max_to = context.current_bet + opp;
+    sizing.max_to = chip_sum(context.current_bet + opp);
     // A raise adds at least the last raise, which is exactly what is left to call.
-    sizing.min_to = std::max(1, std::min(context.current_bet + sizing.to_call, sizing.max_to));
+    sizing.min_to = chip_sum(std::max<std::int64_t>(
+        1, std::min<std::int64_t>(std::int64_t{context.current_bet} + sizing.to_call, sizing.max_to)));
     sizing.remaining_streets = 3 - node.street;
     sizing.raises_this_street = context.raises_this_street;
     sizing.stack_to_pot = sizing.pot > 0 ? static_cast<double>(opp) / sizing.pot : 0.0;
@@ -77,8 +78,8 @@ void append_raises(std::vector<Action>& actions, const std::vector<BetSizeToken>
         std::int32_t amount = 0;
         if (token.kind == BetSizeKind::PotPercent) {
             // Measured on the pot after the call, on top of the bet being raised.
-            const std::int32_t wanted = round_chips(sizing.pot * token.fraction) + sizing.current_bet;
-            amount = std::max(sizing.min_to, std::min(wanted, sizing.max_to));
+            const std::int64_t wanted = std::int64_t{round_chips(sizing.pot * token.fraction)} + sizing.current_bet;
+            amount = chip_sum(std::max<std::int64_t>(sizing.min_to, std::min<std::int64_t>(wanted, sizing.max_to)));
         } else {
             amount = resolve_bet_token(token, sizing);
         }
@@ -219,11 +220,11 @@ ActionPlan::Child ActionPlan::decision_child(const PlanNode& node, const BuildCo
         case kActionCall:
             next.raises_this_street = 0;
             next.aggressor = other_seat(seat);
-            next.stacks[seat] -= action.amount;
+            next.stacks[seat] = chip_sum(std::int64_t{next.stacks[seat]} - action.amount);
             next.current_bet = 0;
-            next.pot += action.amount;
-            next.invested[seat] += action.amount;
-            out.committed += action.amount;
+            next.pot = chip_sum(std::int64_t{next.pot} + action.amount);
+            next.invested[seat] = chip_sum(std::int64_t{next.invested[seat]} + action.amount);
+            out.committed = chip_sum(std::int64_t{out.committed} + action.amount);
             out.seat = kSeatOop;
             if (river) {
                 out.kind = kNodeTerminal;
@@ -238,17 +239,17 @@ ActionPlan::Child ActionPlan::decision_child(const PlanNode& node, const BuildCo
             }
             break;
         default: {
-            const std::int32_t own = context.stacks[seat];
-            const std::int32_t call_part = std::max(std::min(std::max(sizing.to_call, 0), own), 0);
-            const std::int32_t raise_part = std::max(action.amount - context.current_bet, 0);
-            const std::int32_t pay = std::max(std::min(raise_part + call_part, own), 0);
+            const std::int64_t own = context.stacks[seat];
+            const std::int64_t call_part = std::max<std::int64_t>(std::min<std::int64_t>(std::max(sizing.to_call, 0), own), 0);
+            const std::int64_t raise_part = std::max<std::int64_t>(std::int64_t{action.amount} - context.current_bet, 0);
+            const std::int64_t pay = std::max<std::int64_t>(std::min(raise_part + call_part, own), 0);
             next.raises_this_street += 1;
             next.all_in = action.kind == kActionAllIn;
-            next.stacks[seat] -= pay;
-            next.pot += pay;
-            next.invested[seat] += pay;
+            next.stacks[seat] = chip_sum(own - pay);
+            next.pot = chip_sum(next.pot + pay);
+            next.invested[seat] = chip_sum(next.invested[seat] + pay);
             next.current_bet = action.amount;
-            out.committed += call_part;
+            out.committed = chip_sum(out.committed + call_part);
             out.seat = other_seat(seat);
             break;
         }

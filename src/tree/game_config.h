@@ -20,6 +20,9 @@ struct GameConfig {
     double ip_jam_threshold = 0.0;
     double force_all_in_threshold = 0.0;  // no setting reaches these two; every solve runs with 0
     double merge_threshold = 0.0;
+    // The earlier showdown payoff, kept for comparison: the downward pass stops after the first own
+    // hand below the whole opposing row, so weaker hands lose nothing. Off in every real solve.
+    bool showdown_early_stop = false;
 };
 
 }  // namespace kelvane

@@ -40,6 +40,19 @@ QStringList lines_of(const QByteArray& text) {
     return QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
 }
 
+// The polarised river: exact showdowns give the textbook -20 / +20; the earlier early stop of the
+// showdown sweep, kept behind an option, pays AK nothing when it loses to a set and creates chips.
+TEST(SolveCommand, ShowdownEarlyStopIsAnOption) {
+    const CliRun exact = run_cli({"solve", kSpotDir + "polarized_river.json", "--quiet"});
+    ASSERT_EQ(exact.exit_code, 0) << exact.err.toStdString();
+    EXPECT_NEAR(exact.json.value("ev_oop").toDouble(), -20.0, 0.5);
+    EXPECT_NEAR(exact.json.value("ev_ip").toDouble(), 20.0, 0.5);
+
+    const CliRun early = run_cli({"solve", kSpotDir + "polarized_river.json", "--quiet", "--showdown-early-stop"});
+    ASSERT_EQ(early.exit_code, 0) << early.err.toStdString();
+    EXPECT_GT(early.json.value("ev_oop").toDouble() + early.json.value("ev_ip").toDouble(), 50.0);
+}
+
 TEST(SolveCommand, RiverSpotEndToEnd) {
     const CliRun run = run_cli({"solve", kSpotDir + "river.json", "--max-iterations", "60", "--threads", "2",
                                 "--line", "", "--line", "Check,Bet 75%", "--line", "Bet 75%,Raise 999%"});

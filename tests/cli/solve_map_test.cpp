@@ -56,6 +56,12 @@ TEST(SolveConfigFromMap, EmptyMapGivesTheDefaults) {
     }
 }
 
+TEST(SolveConfigFromMap, ShowdownEarlyStopIsOffUnlessAsked) {
+    EXPECT_FALSE(solveConfigFromMap({}).showdown_early_stop);
+    EXPECT_FALSE(solveConfigFromMap({{"showdown_early_stop", false}}).showdown_early_stop);
+    EXPECT_TRUE(solveConfigFromMap({{"showdown_early_stop", true}}).showdown_early_stop);
+}
+
 TEST(SolveConfigFromMap, EveryKeyReachesItsField) {
     QVariantMap map{
         {"board", "qs jh 2h 7c"},

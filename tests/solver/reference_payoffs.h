@@ -1,5 +1,7 @@
 #pragma once
-// Terminal values by brute force: every own hand meets every opposing hand that shares no card.
+// Terminal values by brute force from the rules of poker: every own hand meets every opposing hand
+// that shares no card with it or the board, the stronger one takes the pot less the rake, a tie
+// shares the rake, and an all-in before the river averages over the runouts both hands leave possible.
 
 #include <span>
 #include <vector>
@@ -8,9 +10,7 @@
 
 namespace kelvane::game_test {
 
-// Independent of the sorted rows and card sums: strengths come straight from the evaluator and every
-// pair of hands is compared. Follows the same payoff rules, the early stop of the downward pass
-// included, so it agrees with Game::evaluate up to rounding.
+// Independent of the sorted rows and card sums: strengths come straight from the evaluator.
 std::vector<float> reference_values(const Game& game, std::uint64_t node, Seat seat, std::span<const float> reach);
 
 // Largest payoff magnitude times the total reach: the scale that rounding errors are measured on.

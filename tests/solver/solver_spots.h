@@ -45,11 +45,17 @@ inline std::unique_ptr<Game> make_game(const SpotSetup& setup) {
     return std::make_unique<Game>(config, CardContext(board, ranges));
 }
 
-// A turn spot small enough for many iterations. Both seats hold the same range, so that the weakest
-// hands of the two showdown rows tie on every river and the terminal payoffs stay zero-sum.
+// A turn spot small enough for many iterations, both seats with the same range.
 inline SpotSetup small_turn_spot() {
     const std::string range = "AA,99,77,AK,KQs,QJs,JTs,T8s,86s,65s";
     return {"Ks9d4c7h", range, range, 100, 100, "50", "", "50", ""};
+}
+
+// One range far stronger than the other: many of the weak seat's hands lose to the strong seat's
+// whole range, and the strong seat's best hands beat the weak seat's whole range.
+inline SpotSetup lopsided_river_spot() {
+    return {"Ks9d4c7h2s", "KK,99,77,AK,K9s,97s,QJo,JTo,T8o,65o,63o", "AA,QQ,JJ,TT,AQs,KQ,KJs,86s,A5s,T9s",
+            100, 200, "50,100", "100", "75", "100"};
 }
 
 // A turn spot with more than 128 hands a side, so that the update pass fans out at the river deal.
@@ -59,8 +65,8 @@ inline SpotSetup wide_turn_spot() {
 }
 
 // Nuts (99, trips) and air (43, playing the board) against a bluff-catcher (88), one pot-sized bet by
-// the first seat and nothing else to do. The second seat also holds a trace of 65, which ties the air:
-// it keeps the weakest hands of the two showdown rows level, so every hand is paid in full.
+// the first seat and nothing else to do. The second seat also holds a trace of 65, which ties the air
+// and so never calls.
 // No card is shared across the two ranges, so every matchup is possible.
 struct PolarizedSpot {
     static constexpr double kValueCombos = 3.0;   // 99 with a nine on the board

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -20,11 +21,21 @@ std::vector<float> evaluated(const Game& game, std::uint64_t node, Seat seat, st
     return out;
 }
 
+// Float sums over the runouts of an all-in gather one rounding per runout.
+double runout_count(const Game& game, std::uint64_t node) {
+    const GameNode& n = game.node(node);
+    if (n.terminal_kind == kActionFold) return 1.0;
+    const double unseen = kCardCount - std::popcount(game.node_dead_cards(node));
+    if (n.turn_card == kNoCard) return unseen * (unseen - 1) / 2;
+    return n.river_card == kNoCard ? unseen : 1.0;
+}
+
 // Compares against the pairwise reference and returns how many values were not zero.
 int expect_matches_reference(const Game& game, std::uint64_t node, Seat seat, std::span<const float> reach) {
     const std::vector<float> out = evaluated(game, node, seat, reach);
     const std::vector<float> expected = reference_values(game, node, seat, reach);
-    const double tolerance = kRelativeTolerance * value_scale(game, node, reach);
+    const double rounding = kRelativeTolerance + runout_count(game, node) * std::numeric_limits<float>::epsilon();
+    const double tolerance = rounding * value_scale(game, node, reach);
     int nonzero = 0;
     for (std::size_t h = 0; h < out.size(); ++h) {
         EXPECT_NEAR(out[h], expected[h], tolerance) << "node " << node << " seat " << int(seat) << " hand " << h;
@@ -87,10 +98,80 @@ TEST(TerminalValues, RakedShowdownOnABoardWhereEveryHandTies) {
     }
 }
 
-TEST(TerminalValues, DownwardPassStopsAfterFirstHandBelowWholeOpposingRow) {
+// One range far stronger than the other, so that many hands of the weak seat sit below the strong
+// seat's whole row, and the strong seat's hands above the weak seat's whole row.
+constexpr const char* kStrongRiverRange = "AA,KK,77,44,22,AK,A7,K7";
+constexpr const char* kWeakRiverRange = "QJo,QTo,JTo,T9o,T8o,98o,65o,63o,QQ,JJ";
+
+TEST(TerminalValues, EveryHandBelowTheWholeOpposingRowPaysItsLoss) {
+    for (const bool strong_oop : {true, false}) {
+        const auto game = make_game(river_config(), kRiverBoard, strong_oop ? kStrongRiverRange : kWeakRiverRange,
+                                    strong_oop ? kWeakRiverRange : kStrongRiverRange);
+        const std::uint64_t node = follow(*game, {kActionCheck, kActionCheck});
+        const Seat weak = strong_oop ? kSeatIp : kSeatOop;
+        const std::vector<float> reach(game->hand_count(weak ^ 1), 1.0f);
+        for (const std::uint16_t h : game->live_hands(node, weak)) EXPECT_LT(evaluated(*game, node, weak, reach)[h], 0.0f);
+        expect_both_seats_match(*game, node, 91, 0.0);
+        expect_both_seats_match(*game, node, 92, 0.3);
+    }
+}
+
+TEST(TerminalValues, AsymmetricRangesMatchPairwiseReferenceInEveryShowdownKind) {
+    for (const bool strong_oop : {true, false}) {
+        const char* oop = strong_oop ? kStrongRiverRange : kWeakRiverRange;
+        const char* ip = strong_oop ? kWeakRiverRange : kStrongRiverRange;
+        const auto raked = make_game(river_config(0.05, 3.0), kRiverBoard, oop, ip);
+        expect_both_seats_match(*raked, follow(*raked, {kActionCheck, kActionCheck}), 93, 0.1);
+        expect_both_seats_match(*raked, follow(*raked, {kActionBet, kActionCall}), 94, 0.0);
+
+        for (const double rake : {0.0, 0.05}) {
+            const GameConfig turn = spot_config(kStreetTurn, 100, 50, "100", rake, 3.0);
+            const auto turn_game = make_game(turn, "AsKd7h4c", oop, ip);
+            expect_both_seats_match(*turn_game, follow(*turn_game, {kActionAllIn, kActionCall}), 95, 0.1);
+        }
+        const GameConfig flop = spot_config(kStreetFlop, 100, 50, "100");
+        const auto flop_game = make_game(flop, "AsKd7h", strong_oop ? "AA,KK,77,AK" : "65s,T9o,J9o,54s",
+                                         strong_oop ? "65s,T9o,J9o,54s" : "AA,KK,77,AK");
+        expect_both_seats_match(*flop_game, follow(*flop_game, {kActionAllIn, kActionCall}), 96, 0.0);
+    }
+}
+
+// What the two seats win together at one terminal, reach-weighted: 0 when no rake is taken.
+double chips_created(const Game& game, std::uint64_t node, const std::vector<float>& oop_reach,
+                     const std::vector<float>& ip_reach) {
+    const std::vector<float> oop = evaluated(game, node, kSeatOop, ip_reach);
+    const std::vector<float> ip = evaluated(game, node, kSeatIp, oop_reach);
+    double sum = 0.0;
+    for (std::size_t h = 0; h < oop.size(); ++h) sum += double(oop_reach[h]) * oop[h];
+    for (std::size_t h = 0; h < ip.size(); ++h) sum += double(ip_reach[h]) * ip[h];
+    return sum;
+}
+
+TEST(TerminalValues, UnrakedPayoffsAreZeroSum) {
+    const auto river = make_game(river_config(), kRiverBoard, kStrongRiverRange, kWeakRiverRange);
+    const auto turn = make_game(spot_config(kStreetTurn, 100, 50, "100"), "AsKd7h4c", kWeakRiverRange,
+                                kStrongRiverRange);
+    for (const Game* game : {river.get(), turn.get()}) {
+        const auto oop_reach = random_reach(101, game->hand_count(kSeatOop), 0.2);
+        const auto ip_reach = random_reach(102, game->hand_count(kSeatIp), 0.2);
+        const std::uint8_t wager = game == river.get() ? kActionBet : kActionAllIn;
+        for (const std::uint64_t node : {follow(*game, {kActionCheck, kActionCheck}), follow(*game, {wager, kActionCall}),
+                                         follow(*game, {wager, kActionFold})}) {
+            if (game->node(node).kind != kNodeTerminal) continue;  // a turn check-through deals the river
+            double magnitude = 0.0;
+            for (const float v : evaluated(*game, node, kSeatOop, ip_reach)) magnitude += std::abs(v);
+            EXPECT_GT(magnitude, 0.0);
+            EXPECT_NEAR(chips_created(*game, node, oop_reach, ip_reach), 0.0, 1e-5 * magnitude) << "node " << node;
+        }
+    }
+}
+
+TEST(TerminalValues, EarlyStopSettingKeepsTheEarlierDownwardPass) {
     // Every OOP hand is below every IP hand. Only the strongest OOP hand, the last entry of its row,
     // gets its losing value; all weaker ones get 0 from the downward pass, ties among them included.
-    const auto game = make_game(river_config(), kRiverBoard, "T9o,T8o", "QQ,JJ");
+    GameConfig config = river_config();
+    config.showdown_early_stop = true;
+    const auto game = make_game(config, kRiverBoard, "T9o,T8o", "QQ,JJ");
     const std::uint64_t node = follow(*game, {kActionCheck, kActionCheck});
     const std::vector<float> reach(game->hand_count(kSeatIp), 1.0f);
     const std::vector<float> out = evaluated(*game, node, kSeatOop, reach);
@@ -100,12 +181,45 @@ TEST(TerminalValues, DownwardPassStopsAfterFirstHandBelowWholeOpposingRow) {
     const std::uint16_t first_in_descending_order = row[row.size() - 2].pocket;
     EXPECT_LT(out[first_in_descending_order], 0.0f);
     for (std::size_t i = 1; i + 2 < row.size(); ++i) EXPECT_EQ(out[row[i].pocket], 0.0f) << "row entry " << i;
-    EXPECT_GT(expect_matches_reference(*game, node, kSeatOop, reach), 0);
+    EXPECT_EQ(out[first_in_descending_order], reference_values(*game, node, kSeatOop, reach)[first_in_descending_order]);
+
+    // The exact default pays every one of them its loss.
+    const auto exact = make_game(river_config(), kRiverBoard, "T9o,T8o", "QQ,JJ");
+    const std::vector<float> exact_out = evaluated(*exact, node, kSeatOop, reach);
+    for (std::size_t i = 1; i + 1 < row.size(); ++i) EXPECT_LT(exact_out[row[i].pocket], 0.0f) << "row entry " << i;
 
     // The three-way sweep of a raked pot has no such stop: every hand loses its share.
-    const auto raked = make_game(river_config(0.05, 3.0), kRiverBoard, "T9o,T8o", "QQ,JJ");
+    config.rake_fraction = 0.05;
+    config.rake_cap = 3.0;
+    const auto raked = make_game(config, kRiverBoard, "T9o,T8o", "QQ,JJ");
     const std::uint64_t raked_node = follow(*raked, {kActionCheck, kActionCheck});
     for (const float value : evaluated(*raked, raked_node, kSeatOop, reach)) EXPECT_LT(value, 0.0f);
+}
+
+TEST(TerminalValues, EarlyStopSettingDividesRunoutsByTheRunoutsCounted) {
+    // Before the runout divisor was fixed, a turn all-in divided by every river whose rows held hands.
+    GameConfig config = spot_config(kStreetTurn, 100, 50, "100");
+    const auto exact = make_game(config, "AsKd7h4c", "AA,KK", "QQ,JJ");
+    config.showdown_early_stop = true;
+    const auto early = make_game(config, "AsKd7h4c", "AA,KK", "QQ,JJ");
+    const std::uint64_t node = follow(*exact, {kActionAllIn, kActionCall});
+    const std::vector<float> reach(exact->hand_count(kSeatIp), 1.0f);
+    const std::vector<float> exact_out = evaluated(*exact, node, kSeatOop, reach);
+    const std::vector<float> early_out = evaluated(*early, node, kSeatOop, reach);
+    // 48 unseen rivers, 44 of them possible for any one pair: the earlier values are 44/48 of these.
+    // OOP's sets stay ahead of every IP hand on every river, so the early stop itself drops nothing.
+    for (std::size_t h = 0; h < exact_out.size(); ++h)
+        EXPECT_NEAR(early_out[h], exact_out[h] * 44.0f / 48.0f, 1e-5f * std::abs(exact_out[h]) + 1e-6f) << h;
+}
+
+TEST(TerminalValues, PotsBeyond32BitsAreSummedWithoutOverflow) {
+    // Starting pot plus both commitments passes 2^31; the payoff is formed in 64 bits.
+    const auto game = make_game(spot_config(kStreetRiver, 2'000'000'000, 2'000'000'000, "100"), kRiverBoard,
+                                "AA,KK", "QQ,JJ");
+    const std::uint64_t node = follow(*game, {kActionAllIn, kActionCall});
+    const std::vector<float> reach(game->hand_count(kSeatIp), 1.0f);
+    const std::vector<float> out = evaluated(*game, node, kSeatOop, reach);
+    for (const float value : out) EXPECT_TRUE(std::isfinite(value));
 }
 
 TEST(TerminalValues, IdenticalComboInBothRangesIsRemovedOnce) {
@@ -207,16 +321,16 @@ TEST(TerminalValues, RakeCapOfZeroMeansNoRakeOnRiverPaths) {
 }
 
 TEST(TerminalValues, RakeCapOfZeroTakesNoRakeInAllInRunouts) {
-    // The runout sees a rake before the cap applies, so it takes the three-way sweep, but with a
-    // rake of min(0, ...) = 0: ties pay nothing and a win pays the whole half pot.
-    const GameConfig config = spot_config(kStreetTurn, 100, 50, "100", 0.05, 0.0);
-    const auto game = make_random_game(config, "AsKd7h4c", 61, 0.2);
-    const std::uint64_t node = follow(*game, {kActionAllIn, kActionCall});
-    const std::vector<float> reach(game->hand_count(kSeatIp), 1.0f);
-    const std::vector<float> out = evaluated(*game, node, kSeatOop, reach);
-    const std::vector<float> expected = reference_values(*game, node, kSeatOop, reach);
-    const double tolerance = kRelativeTolerance * value_scale(*game, node, reach);
-    for (std::size_t h = 0; h < out.size(); ++h) EXPECT_NEAR(out[h], expected[h], tolerance);
+    const GameConfig plain = spot_config(kStreetTurn, 100, 50, "100");
+    const GameConfig capped = spot_config(kStreetTurn, 100, 50, "100", 0.05, 0.0);
+    const auto unraked = make_random_game(plain, "AsKd7h4c", 61, 0.2);
+    const auto zero_cap = make_random_game(capped, "AsKd7h4c", 61, 0.2);
+    const std::uint64_t node = follow(*unraked, {kActionAllIn, kActionCall});
+    ASSERT_EQ(node, follow(*zero_cap, {kActionAllIn, kActionCall}));
+    const std::vector<float> reach(unraked->hand_count(kSeatIp), 1.0f);
+    const std::vector<float> expected = evaluated(*unraked, node, kSeatOop, reach);
+    EXPECT_EQ(expected, evaluated(*zero_cap, node, kSeatOop, reach));
+    EXPECT_GT(expect_matches_reference(*zero_cap, node, kSeatOop, reach), 0);
 }
 
 TEST(TerminalValues, TurnAllInAveragesRiverRunouts) {

@@ -138,6 +138,16 @@ TEST(ActionPlanShape, FlopAllInCallRunsOutTurnThenRiver) {
     }
 }
 
+// Chip sums of pots and stacks near the 32-bit limit are formed in 64 bits: the build must not
+// overflow (the sanitizer run aborts on signed overflow), whatever the narrowed fields then hold.
+TEST(ActionPlanEdge, ChipCountsNearThe32BitLimitBuildWithoutOverflow) {
+    const CardContext cards = make_cards("AhKsQd7c2s", "AA,KK", "QQ,JJ");
+    const GameConfig config = make_config(kStreetRiver, 2'000'000'000, 2'000'000'000, symmetric_profile("75%,a", "200%"));
+    const ActionPlan plan(config, cards);
+    EXPECT_GT(plan.node_count(), 5u);
+    expect_single_parents(plan);
+}
+
 TEST(ActionPlanEdge, StackZeroRootTurnsEveryBetIntoUnmergedAllInOfZero) {
     const CardContext cards = river_cards();
     const ActionPlan plan(make_config(kStreetRiver, 100, 0, symmetric_profile("33%,75%", "50%")), cards);
