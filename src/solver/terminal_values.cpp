@@ -187,6 +187,11 @@ bool pot_showdown(const Sweep& sweep, double pot, const GameConfig& config, doub
     return three_way_sweep(sweep, payoffs, out);
 }
 
+// The pot both seats built, summed in 64 bits so that a large pot does not wrap.
+double pot_of(const GameConfig& config, const GameNode& n) {
+    return static_cast<double>(std::int64_t{config.starting_pot} + 2 * std::int64_t{n.committed});
+}
+
 // Everything the opponent can hold, less the hands that share a card with the own hand.
 void fold_values(const Game& game, std::uint64_t node, Seat seat, std::span<const float> opponent_reach,
                  double payoff, std::span<float> out) {
@@ -227,12 +232,13 @@ void runout_average(const Game& game, std::uint64_t node, Seat seat, std::span<c
     const CardMask board = game.node_dead_cards(node);
     std::array<float, kPocketCount> scratch;
     const std::span<float> runout_values(scratch.data(), out.size());
+    const double pot = pot_of(game.config(), n);
     std::uint32_t counted = 0;
 
     const auto add_runout = [&](Card turn, Card river) {
         std::fill(runout_values.begin(), runout_values.end(), 0.0f);
         const Sweep sweep = sweep_on(game, seat, turn, river, opponent_reach);
-        if (!pot_showdown(sweep, n.pot, game.config(), game.cards().total_matchups, runout_values)) return;
+        if (!pot_showdown(sweep, pot, game.config(), game.cards().total_matchups, runout_values)) return;
         for (std::size_t h = 0; h < out.size(); ++h) out[h] += runout_values[h];
         ++counted;
     };
@@ -271,8 +277,7 @@ void Game::evaluate(std::uint64_t node, Seat seat, std::span<const float> oppone
     const GameNode& n = nodes_[node];
     const double total_matchups = cards_.total_matchups;
 
-    // Chip sums in 64 bits: a large pot must not wrap.
-    const double pot = static_cast<double>(std::int64_t{config_.starting_pot} + 2 * std::int64_t{n.committed});
+    const double pot = pot_of(config_, n);
     const double rake = rake_of(pot, config_);
     const double win = per_matchup(pot / 2 - rake, total_matchups);
     const double lose = per_matchup(-(pot / 2), total_matchups);
@@ -289,7 +294,7 @@ void Game::evaluate(std::uint64_t node, Seat seat, std::span<const float> oppone
     }
     const Sweep sweep = sweep_on(*this, seat, n.turn_card, n.river_card, opponent_reach);
     if (std::abs(rake) > kRakeEpsilon)
-        pot_showdown(sweep, n.pot, config_, total_matchups, out);
+        pot_showdown(sweep, pot, config_, total_matchups, out);
     else
         two_pass_sweep(sweep, win, lose, out);
 }

@@ -82,7 +82,7 @@ std::vector<float> reference_values(const Game& game, std::uint64_t node, Seat s
     const std::array<Card, 5> known{flop[0], flop[1], flop[2], n.turn_card, n.river_card};
     const CardMask dead = game.node_dead_cards(node);
     const bool complete = n.turn_card != kNoCard && n.river_card != kNoCard;
-    const Payoffs payoffs = showdown_payoffs(n.terminal_kind == kActionFold ? pot : n.pot, config);
+    const Payoffs payoffs = showdown_payoffs(pot, config);
     // A fold pays the folder's loss or the winner's gain, whoever holds what.
     const double fold_payoff = static_cast<float>(n.folded_seat == seat ? -pot / 2 : pot / 2 - rake_of(pot, config));
 

@@ -214,12 +214,21 @@ TEST(TerminalValues, EarlyStopSettingDividesRunoutsByTheRunoutsCounted) {
 
 TEST(TerminalValues, PotsBeyond32BitsAreSummedWithoutOverflow) {
     // Starting pot plus both commitments passes 2^31; the payoff is formed in 64 bits.
-    const auto game = make_game(spot_config(kStreetRiver, 2'000'000'000, 2'000'000'000, "100"), kRiverBoard,
+    const auto game = make_game(spot_config(kStreetRiver, 2'000'000'000, 2'000'000'000, "a"), kRiverBoard,
                                 "AA,KK", "QQ,JJ");
     const std::uint64_t node = follow(*game, {kActionAllIn, kActionCall});
     const std::vector<float> reach(game->hand_count(kSeatIp), 1.0f);
     const std::vector<float> out = evaluated(*game, node, kSeatOop, reach);
-    for (const float value : out) EXPECT_TRUE(std::isfinite(value));
+    // Each set (AA, KK minus the board's ace and king) beats all twelve pairs below it and wins
+    // half the starting pot plus the whole stack from each, over the 72 matchups of the spot.
+    ASSERT_EQ(out.size(), 6u);
+    for (const float value : out) EXPECT_FLOAT_EQ(value, 12.0f * 3'000'000'000.0f / 72.0f);
+    EXPECT_EQ(out, reference_values(*game, node, kSeatOop, reach));
+
+    // A raked all-in before the river pays every runout from the same unwrapped pot.
+    const auto turn = make_game(spot_config(kStreetTurn, 2'000'000'000, 2'000'000'000, "a", 0.05, 3.0), "AsKd7h4c",
+                                "AA,KK,QQ,AK", "QQ,JJ,AK,KQ");
+    expect_both_seats_match(*turn, follow(*turn, {kActionAllIn, kActionCall}), 61, 0.2);
 }
 
 TEST(TerminalValues, IdenticalComboInBothRangesIsRemovedOnce) {
