@@ -30,6 +30,11 @@ build "$root/build-asan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_SANITIZE=ON
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
   run_suite asan-ubsan "$root/build-asan" -L engine -LE heavy
 
+KELVANE_TARGETS=app_controller_exit_test build "$root/build-asan-qt" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+  -DKELVANE_SANITIZE=ON -DKELVANE_BUILD_BENCH=OFF
+ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
+  run_suite asan-shutdown "$root/build-asan-qt" -L shutdown
+
 build "$root/build-tsan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_TSAN=ON \
   -DKELVANE_BUILD_QT=OFF -DKELVANE_BUILD_BENCH=OFF
 TSAN_OPTIONS=halt_on_error=1 run_suite tsan "$root/build-tsan" -L concurrent -LE heavy

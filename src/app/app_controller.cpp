@@ -5,13 +5,14 @@
 #include <QThread>
 #include <QtDebug>
 #include <array>
-#include <exception>
 #include <limits>
 #include <thread>
 
+#include "app/app_controller_mailbox.h"
 #include "app/memory_text.h"
 #include "app/platform.h"
 #include "app/solve_map.h"
+#include "session/detached_threads.h"
 #include "session/memory_estimate.h"
 
 namespace kelvane_app {
@@ -49,13 +50,13 @@ qint32 usableThreadCount() {
     return count < 1 ? 1 : count;
 }
 
-// Runs on an estimate thread: reads only its own copy of the map.
+// Runs on an estimate thread: reads only its own copy of the map. Any failure means no estimate.
 std::pair<quint64, QString> estimateMemory(const QVariantMap& cfg) {
     try {
         const SolveMemoryEstimate estimate = estimate_solve_memory(solveConfigFromMap(cfg));
         if (estimate.valid && estimate.total_bytes > 0)
             return {estimate.total_bytes, memoryText(estimate.total_bytes)};
-    } catch (const std::exception&) {
+    } catch (...) {
     }
     return {0, memoryText(0)};
 }
@@ -64,6 +65,7 @@ std::pair<quint64, QString> estimateMemory(const QVariantMap& cfg) {
 
 AppController::AppController(QObject* parent)
     : QObject(parent),
+      m_mailbox(std::make_shared<ControllerMailbox>(this)),
       m_systemMemoryText(memoryText(0)),
       m_systemAvailableMemoryText(memoryText(0)),
       m_solveRequiredMemoryText(memoryText(0)) {
@@ -86,6 +88,8 @@ AppController::AppController(QObject* parent)
     m_statusText = QCoreApplication::translate("AppController", "Ready");
 }
 
+AppController::~AppController() { m_mailbox->close(); }
+
 QString AppController::appDir() const { return QCoreApplication::applicationDirPath(); }
 
 void AppController::refreshAvailableMemory() {
@@ -99,15 +103,13 @@ void AppController::refreshAvailableMemory() {
 
 void AppController::requestSolveMemoryEstimate(QVariantMap cfg) {
     const quint64 requestNumber = ++m_estimateCounter;
-    std::thread([this, requestNumber, cfg] {
+    // `this` only rides along to the call that the mailbox delivers while the controller lives.
+    start_detached_thread([mailbox = m_mailbox, this, requestNumber, cfg] {
         const auto [bytes, text] = estimateMemory(cfg);
-        QMetaObject::invokeMethod(
-            this,
-            [this, requestNumber, bytes = bytes, text = text] {
-                publishMemoryEstimate(requestNumber, bytes, text);
-            },
-            Qt::QueuedConnection);
-    }).detach();
+        mailbox->post([this, requestNumber, bytes = bytes, text = text] {
+            publishMemoryEstimate(requestNumber, bytes, text);
+        });
+    });
 }
 
 void AppController::publishMemoryEstimate(quint64 requestNumber, quint64 bytes, const QString& text) {

@@ -12,12 +12,17 @@
 #include <QVariantMap>
 #include <atomic>
 #include <cstdint>
+#include <memory>
 
 #include "session/solve_config.h"
 #include "session/solve_result.h"
 #include "session/solve_session.h"
 
+class AppControllerSolveTest;
+
 namespace kelvane_app {
+
+class ControllerMailbox;
 
 // A user's lock of one hand class at one node to one action.
 struct NodeLock {
@@ -52,6 +57,9 @@ class AppController : public QObject {
 
   public:
     explicit AppController(QObject* parent = nullptr);
+    // Cancels a solve still going and cuts the way back from it and from the memory estimates; those
+    // threads finish on their own.
+    ~AppController() override;
 
     QString appDir() const;
     bool useTbb() const { return false; }
@@ -117,10 +125,14 @@ class AppController : public QObject {
     void solveRequiredMemoryChanged();
 
   private:
+    // Holds a run between its last message and the fall of the session's flag.
+    friend class ::AppControllerSolveTest;
+
     using NodeLockTable = QHash<qint32, QHash<QByteArray, NodeLock>>;
 
     SolveConfig buildSolveConfig(const QVariantMap& cfg, bool withLocks) const;
     void handleSolveProgress(const SolveProgress& message);
+    void lowerRunningIfSessionEnded();
     void publishResult(const SolveResult& result);
     void clearResultData();
     void clearNodeCaches();
@@ -156,6 +168,7 @@ class AppController : public QObject {
     mutable QHash<qint32, QVariantList> m_ipSeatHandCombosByNode;
 
     SolveSession m_session;
+    std::shared_ptr<ControllerMailbox> m_mailbox;
 
     qint32 m_systemThreadCount = 1;
     QString m_systemMemoryText;

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <string_view>
 
 #include "app/app_controller.h"
 #include "poker/cards.h"
 #include "poker/hand_evaluator.h"
 #include "session/action_stats.h"
 #include "session/bucket_table.h"
+#include "session/hand_categories.h"
 #include "session/hand_combos.h"
 #include "session/hand_strategy.h"
 #include "tree/action_plan.h"
@@ -90,6 +92,38 @@ QVariantList toHandBuckets(const HandBuckets& buckets) {
                                 {"actionProbs", numberList(row.action_probs)}});
     return list;
 }
+
+// The bucket names as the translation tools collect them; the session names its rows in the same order.
+constexpr std::array<const char*, kBucketRowCount> kTranslatableBucketNames{
+    QT_TRANSLATE_NOOP("HandBuckets", "straight flush"),
+    QT_TRANSLATE_NOOP("HandBuckets", "quads"),
+    QT_TRANSLATE_NOOP("HandBuckets", "full house"),
+    QT_TRANSLATE_NOOP("HandBuckets", "flush"),
+    QT_TRANSLATE_NOOP("HandBuckets", "straight"),
+    QT_TRANSLATE_NOOP("HandBuckets", "set"),
+    QT_TRANSLATE_NOOP("HandBuckets", "trips"),
+    QT_TRANSLATE_NOOP("HandBuckets", "two pair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "top pair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "overpair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "middle pair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "bottom pair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "dry pair"),
+    QT_TRANSLATE_NOOP("HandBuckets", "flush draw"),
+    QT_TRANSLATE_NOOP("HandBuckets", "missed FD"),
+    QT_TRANSLATE_NOOP("HandBuckets", "open ended straight draw"),
+    QT_TRANSLATE_NOOP("HandBuckets", "missed OESD"),
+    QT_TRANSLATE_NOOP("HandBuckets", "gutter"),
+    QT_TRANSLATE_NOOP("HandBuckets", "missed gutter"),
+    QT_TRANSLATE_NOOP("HandBuckets", "back door flush draw"),
+    QT_TRANSLATE_NOOP("HandBuckets", "air"),
+};
+
+constexpr bool namesMatchBucketRows(const std::array<const char*, kBucketRowCount>& names) {
+    for (std::size_t row = 0; row < kBucketRowCount; ++row)
+        if (std::string_view(names[row]) != kBucketRowNames[row]) return false;
+    return true;
+}
+static_assert(namesMatchBucketRows(kTranslatableBucketNames), "a bucket row name is not marked for translation");
 
 // The cache keeps bucket names untranslated, so a change of language shows at the next read.
 QVariantList withDisplayNames(QVariantList buckets) {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "app/app_controller.h"
+#include "app/app_controller_mailbox.h"
 #include "app/solve_map.h"
 
 namespace kelvane_app {
@@ -111,10 +112,13 @@ void AppController::startSolveWithConfig(QVariantMap cfg) {
     }
 
     setRunning(true);
-    const bool started = m_session.start(config, [this](const SolveProgress& message) {
-        QMetaObject::invokeMethod(
-            this, [this, message] { handleSolveProgress(message); }, Qt::QueuedConnection);
-    });
+    // `this` only rides along to the calls that the mailbox delivers while the controller lives.
+    const auto onProgress = [mailbox = m_mailbox, this](const SolveProgress& message) {
+        mailbox->post([this, message] { handleSolveProgress(message); });
+    };
+    // A second look at the flag once it is down, for a last message handled before it fell.
+    const auto onEnd = [mailbox = m_mailbox, this] { mailbox->post([this] { lowerRunningIfSessionEnded(); }); };
+    const bool started = m_session.start(config, onProgress, onEnd);
     if (!started) {
         // A run the controller had already let go of, as after clearResults, is still going.
         setStatusText(translated(QT_TRANSLATE_NOOP("AppController", "Already running")));
@@ -188,6 +192,10 @@ void AppController::handleSolveProgress(const SolveProgress& message) {
         qInfo().noquote() << "UI emitted resultsChanged";
     }
     // The worker lowers its flag only after its last message, so this is usually the moment it has fallen.
+    lowerRunningIfSessionEnded();
+}
+
+void AppController::lowerRunningIfSessionEnded() {
     if (!m_session.is_running() && m_running) setRunning(false);
 }
 

@@ -3,13 +3,24 @@
 
 #include "session/solve_session.h"
 
+#include <atomic>
 #include <exception>
-#include <memory>
+#include <mutex>
 #include <string>
-#include <thread>
 #include <utility>
 
+#include "session/detached_threads.h"
+
 namespace kelvane_app {
+
+struct SolveSessionState {
+    std::atomic<bool> running{false};
+    std::atomic<bool> cancel_requested{false};
+    mutable std::mutex mutex;  // guards the two pointers and nothing else
+    std::shared_ptr<kelvane::Game> game;
+    std::shared_ptr<kelvane::DiscountedCfr> solver;
+};
+
 namespace {
 
 constexpr const char* kStatusDone = "Done";
@@ -27,53 +38,22 @@ void send_failure(const ProgressCallback& on_progress, SolveResult& result, cons
     send_result(on_progress, 0.0, kErrorPrefix + error, std::move(result));
 }
 
-// What the worker thread owns for the length of the run.
-struct WorkerJob {
-    SolveSession* session;
-    SolveConfig config;
-    ProgressCallback on_progress;
-};
-
-}  // namespace
-
-bool SolveSession::start(const SolveConfig& config, ProgressCallback on_progress) {
-    if (running.exchange(true)) return false;
-    cancel_requested.store(false);
-    clear();
-    auto job = std::make_unique<WorkerJob>(WorkerJob{this, config, std::move(on_progress)});
-    std::thread([job = std::move(job)] { job->session->run(job->config, job->on_progress); }).detach();
-    return true;
+void publish(SolveSessionState& state, const SolvedGame& solved) {
+    const std::lock_guard lock(state.mutex);
+    state.game = solved.game;
+    state.solver = solved.solver;
 }
 
-void SolveSession::cancel() { cancel_requested.exchange(true); }
-
-bool SolveSession::is_running() const { return running.load(); }
-
-void SolveSession::clear() {
-    const std::lock_guard lock(mutex);
-    game.reset();
-    solver.reset();
-}
-
-SolvedGame SolveSession::solution() const {
-    const std::lock_guard lock(mutex);
-    return {game, solver};
-}
-
-void SolveSession::publish(const SolvedGame& solved) {
-    const std::lock_guard lock(mutex);
-    game = solved.game;
-    solver = solved.solver;
-}
-
-void SolveSession::run(const SolveConfig& config, const ProgressCallback& on_progress) {
+// Everything up to and including the last message; the game and solver it built are released on return.
+void run(SolveSessionState& state, const SolveConfig& config, const ProgressCallback& on_progress) {
     SolveResult result;
     result.board = config.board;
     try {
         const kelvane::BoardCards board = kelvane::parse_board_text(config.board);
-        std::optional<SolvedGame> solved = run_solve_pipeline(config, board, result, on_progress, cancel_requested);
+        std::optional<SolvedGame> solved =
+            run_solve_pipeline(config, board, result, on_progress, state.cancel_requested);
         if (solved) {
-            publish(*solved);
+            publish(state, *solved);
             result.success = true;
             send_result(on_progress, 1.0, kStatusDone, std::move(result));
         } else {
@@ -87,8 +67,57 @@ void SolveSession::run(const SolveConfig& config, const ProgressCallback& on_pro
     } catch (...) {
         send_failure(on_progress, result, kUnknownError);
     }
-    // Falls only after the last message, so a reader that sees it down has seen the result.
-    running.store(false);
+}
+
+// What the worker thread owns for the length of the run, the session's state included.
+struct WorkerJob {
+    std::shared_ptr<SolveSessionState> state;
+    SolveConfig config;
+    ProgressCallback on_progress;
+    RunEndCallback on_end;
+    std::function<void()> hold_before_flag_falls;
+
+    void operator()() const {
+        run(*state, config, on_progress);
+        if (hold_before_flag_falls) hold_before_flag_falls();
+        // Falls only after the last message, so a reader that sees it down has seen the result.
+        state->running.store(false);
+        if (on_end) on_end();
+    }
+};
+
+}  // namespace
+
+SolveSession::SolveSession() : state(std::make_shared<SolveSessionState>()) {}
+
+SolveSession::~SolveSession() { cancel(); }
+
+bool SolveSession::start(const SolveConfig& config, ProgressCallback on_progress, RunEndCallback on_end) {
+    if (state->running.exchange(true)) return false;
+    state->cancel_requested.store(false);
+    clear();
+    start_detached_thread(
+        WorkerJob{state, config, std::move(on_progress), std::move(on_end), hold_before_flag_falls});
+    return true;
+}
+
+void SolveSession::cancel() { state->cancel_requested.exchange(true); }
+
+bool SolveSession::is_running() const { return state->running.load(); }
+
+void SolveSession::clear() {
+    const std::lock_guard lock(state->mutex);
+    state->game.reset();
+    state->solver.reset();
+}
+
+SolvedGame SolveSession::solution() const {
+    const std::lock_guard lock(state->mutex);
+    return {state->game, state->solver};
+}
+
+void SolveSession::set_hold_before_flag_falls(std::function<void()> hold) {
+    hold_before_flag_falls = std::move(hold);
 }
 
 }  // namespace kelvane_app

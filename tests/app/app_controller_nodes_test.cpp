@@ -1,11 +1,15 @@
 // Tests of the controller's node interface: tree views, locks, hand queries, their caches and showdowns.
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
 #include <QtTest>
 #include <cmath>
 #include <memory>
 
 #include "controller_test_support.h"
+#include "session/hand_categories.h"
 
 using kelvane_app::AppController;
 using kelvane_test::loadSpot;
@@ -58,6 +62,32 @@ int leastPlayed(const QVariantList& probs) {
     for (int a = 1; a < probs.size(); ++a)
         if (probs[a].toDouble() < probs[least].toDouble()) least = a;
     return least;
+}
+
+QStringList bucketRowNames() {
+    QStringList names;
+    for (const std::string_view name : kelvane_app::kBucketRowNames)
+        names.append(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    return names;
+}
+
+QString translatedBucket(const QTranslator& translator, const QString& name) {
+    return translator.translate("HandBuckets", name.toUtf8().constData());
+}
+
+// The source texts of one context of a translation catalogue.
+QStringList sourcesInContext(const QString& cataloguePath, const QString& context) {
+    QFile file(cataloguePath);
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QXmlStreamReader xml(&file);
+    QStringList sources;
+    QString currentContext;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QLatin1String("name")) currentContext = xml.readElementText();
+        else if (xml.name() == QLatin1String("source") && currentContext == context) sources.append(xml.readElementText());
+    }
+    return sources;
 }
 
 }  // namespace
@@ -227,6 +257,43 @@ class AppControllerNodesTest : public QObject {
         QVERIFY(!c.nodeSeatHandCombos(terminalNode, "IP").isEmpty());
         QVERIFY(c.nodeActionStats(-1).isEmpty());
         QVERIFY(c.nodeHandCombos(c.treeNodeCount() + 5).isEmpty());
+    }
+
+    // Each bucket row has its German text under the context that the bucket query translates with.
+    void bucketNamesHaveGermanTexts() {
+        QTranslator german;
+        QVERIFY(german.load(QStringLiteral(":/Kelvane/i18n/kelvane_de.qm")));
+        const QStringList names = bucketRowNames();
+        QCOMPARE(names.size(), 21);
+        for (const QString& name : names) QVERIFY2(!translatedBucket(german, name).isEmpty(), qPrintable(name));
+        QCOMPARE(translatedBucket(german, "two pair"), QStringLiteral("Zwei Paare"));
+
+        QVERIFY(QCoreApplication::installTranslator(&german));
+        const QVariantList buckets = solved->nodeHandBuckets(0);
+        QCoreApplication::removeTranslator(&german);
+        QVERIFY(!buckets.isEmpty());
+        for (const QVariant& entry : buckets) {
+            const QVariantMap bucket = entry.toMap();
+            QCOMPARE(bucket.value("displayName").toString(),
+                     translatedBucket(german, bucket.value("name").toString()));
+        }
+    }
+
+    // A catalogue update keeps them: the translation tools find every row name marked in that context.
+    void bucketNamesAreMarkedForTheTranslationTools() {
+        const QTemporaryDir dir;
+        const QString catalogue = dir.filePath(QStringLiteral("kelvane_xx.ts"));
+        QProcess lupdate;
+        lupdate.start(QStringLiteral(KELVANE_LUPDATE),
+                      {QStringLiteral(KELVANE_APP_SOURCE_DIR), QStringLiteral("-silent"), QStringLiteral("-ts"),
+                       catalogue});
+        QVERIFY(lupdate.waitForFinished(120000));
+        QCOMPARE(lupdate.exitCode(), 0);
+        QStringList marked = sourcesInContext(catalogue, QStringLiteral("HandBuckets"));
+        QStringList expected = bucketRowNames();
+        marked.sort();
+        expected.sort();
+        QCOMPARE(marked, expected);
     }
 
     void cachesServeWhenNoSolutionIsLive() {

@@ -3,12 +3,15 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QtTest>
+#include <chrono>
 #include <cmath>
+#include <semaphore>
 
 #include "app/memory_text.h"
 #include "app/platform.h"
 #include "app/solve_map.h"
 #include "controller_test_support.h"
+#include "session/detached_threads.h"
 #include "session/memory_estimate.h"
 
 using kelvane_app::AppController;
@@ -19,6 +22,7 @@ using kelvane_test::waitForIdle;
 namespace {
 
 constexpr quint64 kGigabyte = quint64{1} << 30;
+constexpr int kPromptMs = 30000;  // for what follows at once, with a margin for a loaded machine
 const char* const kDevVariables[] = {"KELVANE_DEV_MODE", "ORVANTHIS_DEV_MODE", "CPP_SOLVER_DEV_MODE"};
 
 QVariantMap riverSpot(int iterations) {
@@ -297,6 +301,35 @@ class AppControllerSolveTest : public QObject {
         const QVariantMap afterBet = c.nodeMeta(actions[1].toMap().value("childIndex").toInt());
         QCOMPARE(afterBet.value("player").toString(), QStringLiteral("IP"));
         QCOMPARE(afterBet.value("investedOop").toInt(), 75);
+    }
+
+    // The last message is handled while the worker still holds its flag up; the flag's fall alone, with
+    // no message after it, ends `running`.
+    void runningFallsOnceTheFlagFallsAfterTheLastMessage() {
+        AppController c;
+        std::binary_semaphore held{0};
+        std::binary_semaphore released{0};
+        c.m_session.set_hold_before_flag_falls([&] {
+            held.release();
+            released.acquire();
+        });
+        QSignalSpy running(&c, &AppController::runningChanged);
+        const LogCapture log;
+        c.startSolveWithConfig(quickFlopSpot("AsKdQh"));
+        QVERIFY(c.running());
+        QVERIFY(QTest::qWaitFor([&] { return c.statusText() == QLatin1String("Done"); },
+                                kelvane_test::kSolveTimeoutMs));
+        held.acquire();
+        QVERIFY(c.running());
+        const qsizetype messages = log.startingWith("UI solve progress:").size();
+
+        released.release();
+        QVERIFY(QTest::qWaitFor([&] { return !c.running(); }, kPromptMs));
+        QVERIFY(kelvane_app::wait_for_detached_threads(std::chrono::minutes(1)));
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(running.count(), 2);
+        QCOMPARE(log.startingWith("UI solve progress:").size(), messages);
+        QCOMPARE(c.resultsSummary(), summaryOf(c, "AsKdQh"));
     }
 
     void runningGuardChangesNothing() {

@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <future>
 #include <numeric>
+#include <semaphore>
 
+#include "session/detached_threads.h"
 #include "session_test_support.h"
 
 namespace kelvane_app {
@@ -18,6 +22,7 @@ constexpr const char* kInitSolver = "Init: starting solver...";
 constexpr const char* kComputing = "Finalizing: computing results...";
 constexpr const char* kSnapshot = "Finalizing: building result snapshot...";
 constexpr const char* kBoardError = "Board must include at least a flop (6 chars, e.g. AhKsQd)";
+constexpr std::chrono::minutes kWorkerTimeout{4};
 
 bool starts_with(const std::string& text, const std::string& prefix) { return text.rfind(prefix, 0) == 0; }
 
@@ -375,6 +380,85 @@ TEST(SolveSession, LocksReachTheGame) {
         EXPECT_FLOAT_EQ(hand_strategy[h], 0.0f);
         EXPECT_FLOAT_EQ(hand_strategy[hands.size() + h], 1.0f);
     }
+}
+
+// What the end notice saw of the session: how often it came and whether the flag was down each time.
+struct EndNotices {
+    std::mutex mutex;
+    int count = 0;
+    bool flag_was_down = true;
+
+    RunEndCallback callback(const SolveSession& session) {
+        return [this, &session] {
+            const std::lock_guard lock(mutex);
+            ++count;
+            flag_was_down = flag_was_down && !session.is_running();
+        };
+    }
+};
+
+TEST(SolveSession, EndNoticeComesOnceAfterTheFlagHasFallen) {
+    SolveConfig failing = small_river_spot();
+    failing.board = "AhKs7";
+    for (const SolveConfig& config : {small_river_spot(), failing}) {
+        SolveSession session;
+        RunRecorder recorder;
+        EndNotices ends;
+        ASSERT_TRUE(session.start(config, recorder.callback(), ends.callback(session)));
+        recorder.wait(session);
+        ASSERT_TRUE(wait_for_detached_threads(kWorkerTimeout));
+        EXPECT_EQ(ends.count, 1);
+        EXPECT_TRUE(ends.flag_was_down);
+    }
+}
+
+TEST(SolveSession, HoldKeepsTheFlagUpAfterTheLastMessageUntilReleased) {
+    SolveSession session;
+    std::binary_semaphore held{0};
+    std::binary_semaphore released{0};
+    session.set_hold_before_flag_falls([&] {
+        held.release();
+        released.acquire();
+    });
+    std::promise<void> ended;
+    RunRecorder recorder;
+    bool running_at_result = false;
+    recorder.hook = [&](const SolveProgress& message) {
+        if (message.result) running_at_result = session.is_running();
+    };
+    ASSERT_TRUE(session.start(small_river_spot(), recorder.callback(), [&] { ended.set_value(); }));
+    held.acquire();
+    EXPECT_TRUE(running_at_result);
+    EXPECT_TRUE(session.is_running());
+    released.release();
+    ASSERT_EQ(ended.get_future().wait_for(kWorkerTimeout), std::future_status::ready);
+    EXPECT_FALSE(session.is_running());
+    ASSERT_TRUE(wait_for_detached_threads(kWorkerTimeout));
+    EXPECT_EQ(recorder.wait(session).back().status, "Done");
+}
+
+TEST(SolveSession, EndingTheSessionCancelsItsRunWhichFinishesOnItsOwn) {
+    std::mutex mutex;
+    std::vector<std::string> seen;
+    std::binary_semaphore iterating{0};
+    const ProgressCallback record = [&](const SolveProgress& message) {
+        const std::lock_guard lock(mutex);
+        seen.push_back(message.status);
+        if (message.status.rfind("Iter 1 ", 0) == 0) iterating.release();
+    };
+    std::promise<void> ended;
+    {
+        SolveSession session;
+        SolveConfig endless = small_river_spot();
+        endless.max_iterations = 100000000;
+        endless.target_exploitability = 0.0f;
+        ASSERT_TRUE(session.start(endless, record, [&] { ended.set_value(); }));
+        iterating.acquire();
+    }
+    ASSERT_EQ(ended.get_future().wait_for(kWorkerTimeout), std::future_status::ready);
+    ASSERT_TRUE(wait_for_detached_threads(kWorkerTimeout));
+    ASSERT_FALSE(seen.empty());
+    EXPECT_EQ(seen.back(), "Cancelled");
 }
 
 TEST(SolveProgressText, IterationStatus) {
