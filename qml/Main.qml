@@ -9,8 +9,8 @@ Window {
     height: 1200
     minimumWidth: Math.max(1100, shell.projectRecommendedWidth)
     minimumHeight: 700
-    // Painted before the shell exists, so the window never flashes white.
-    color: "#080B12"
+    // Painted before the shell's own background, so the window never flashes white.
+    color: shell.theme.bg0
     flags: Qt.Window | Qt.WindowTitleHint | Qt.WindowSystemMenuHint | Qt.WindowMinMaxButtonsHint
            | Qt.WindowCloseButtonHint
     visible: true

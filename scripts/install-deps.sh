@@ -10,6 +10,7 @@ packages=(
   qml6-module-qtquick-dialogs qml6-module-qtquick-window qml6-module-qtquick-templates
   qml6-module-qtqml-workerscript qml6-module-qt-labs-settings
   qml6-module-qt5compat-graphicaleffects qml6-module-qttest libgl-dev
+  xvfb xauth libgl1-mesa-dri libxcb-cursor0
 )
 
 missing=()
