@@ -6,6 +6,8 @@ Item {
 
     property var theme: null
     property var type: null
+    property var controller: null
+    property bool canSolve: false
 
     property string boardText: ""
     property string oopRangeText: ""
