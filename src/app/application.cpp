@@ -15,6 +15,7 @@
 #include "app/app_controller.h"
 #include "app/app_log.h"
 #include "app/crash_hooks.h"
+#include "app/font_lists.h"
 #include "app/language_manager.h"
 
 namespace kelvane_app {
@@ -65,6 +66,7 @@ int run_application(int& argc, char** argv, const LaunchOptions& options) {
     QQuickStyle::setStyle(QLatin1String(quick_controls_style));
     QGuiApplication app(argc, argv);
     QGuiApplication::setWindowIcon(QIcon(QLatin1String(window_icon)));
+    install_theme_font_lists();
     QCoreApplication::setOrganizationName(QLatin1String(product_name));
     QCoreApplication::setApplicationName(QLatin1String(product_name));
     QCoreApplication::setApplicationVersion(QLatin1String(product_version));

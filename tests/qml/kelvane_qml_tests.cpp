@@ -6,6 +6,7 @@
 #include <QtQuickTest>
 
 #include "app/app_controller.h"
+#include "app/font_lists.h"
 #include "app/language_manager.h"
 #include "app/settings_sandbox.h"
 
@@ -20,7 +21,10 @@ class QmlTestSetup : public QObject {
     Q_OBJECT
 
   public slots:
-    void applicationAvailable() { kelvane_test::use_private_settings_store(); }
+    void applicationAvailable() {
+        kelvane_test::use_private_settings_store();
+        kelvane_app::install_theme_font_lists();
+    }
 
     void qmlEngineAvailable(QQmlEngine* engine) {
         // The test documents live outside the module, so they import it by name from the resources.

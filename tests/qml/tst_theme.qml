@@ -126,6 +126,26 @@ TestCase {
         compare(dark.fontMono, "JetBrains Mono, Cascadia Code, Consolas, monospace")
     }
 
+    Component {
+        id: metricsComponent
+
+        TextMetrics {}
+    }
+
+    function widthIn(family, text) {
+        const metrics = createTemporaryObject(metricsComponent, testCase, {text: text})
+        metrics.font.family = family
+        metrics.font.pixelSize = 13
+        return metrics.advanceWidth
+    }
+
+    // Each list draws in its first installed member or a fall-back: the mono list in a fixed-pitch family.
+    function test_fontListsDrawInAnInstalledFamily() {
+        const theme = makeTheme(true)
+        compare(widthIn(theme.fontMono, "iiii"), widthIn(theme.fontMono, "MMMM"), "the mono list is fixed pitch")
+        verify(widthIn(theme.fontFamily, "iiii") < widthIn(theme.fontFamily, "MMMM"), "the text list is proportional")
+    }
+
     function test_suitColor() {
         const theme = makeTheme(true)
         sameColor(theme.suitColor("s"), theme.suitSpades, "s")
