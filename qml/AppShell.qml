@@ -539,6 +539,7 @@ Item {
                 objectName: "homePage"
                 theme: shell.theme
                 type: shell.type
+                controller: shell.controller
                 projectStateProvider: shell.exportProjectState
                 onNewProject: shell._onNewProject()
                 onQuickSolve: shell._onQuickSolve()
@@ -566,6 +567,7 @@ Item {
                 theme: shell.theme
                 type: shell.type
                 controller: shell.controller
+                canSolve: shell.canSolve
                 onGoToResults: shell._navigate(shell._resultsIndex)
             }
 

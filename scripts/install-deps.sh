@@ -8,7 +8,7 @@ packages=(
   qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
   qml6-module-qtquick-dialogs qml6-module-qtquick-window qml6-module-qtquick-templates
-  qml6-module-qtqml-workerscript qml6-module-qt-labs-settings
+  qml6-module-qtqml-workerscript qml6-module-qt-labs-settings qml6-module-qt-labs-folderlistmodel
   qml6-module-qt5compat-graphicaleffects qml6-module-qttest libgl-dev
   xvfb xauth libgl1-mesa-dri libxcb-cursor0
 )

@@ -3,6 +3,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import "SolveProgress.js" as SolveProgress
 
 Rectangle {
     id: bar
@@ -23,7 +24,7 @@ Rectangle {
 
     readonly property bool running: _controllerValue("running", false) === true
     readonly property string statusText: String(_controllerValue("statusText", ""))
-    readonly property bool isFinalizing: running && statusText.startsWith(_finalizingPrefix)
+    readonly property bool isFinalizing: SolveProgress.isFinalizing(running, statusText)
     readonly property int currentIteration: _currentIteration()
     readonly property int progressWheelTotalIterations: _wheelTotal()
     readonly property int progressPercent: Math.round(_progressValue() * 100)
@@ -33,8 +34,6 @@ Rectangle {
     // The finishing stages name no iteration, so the last one seen is held through them.
     property int _lastIterFromStatusText: 0
 
-    readonly property string _finalizingPrefix: "Finalizing:"
-    readonly property var _iterationPattern: /Iter\s+(\d+)/
     readonly property var _tabIcons: ["home", "clipboard", "bolt", "chart", "gear"]
     readonly property var _disabledTips: ["",
         qsTr("Start a new project (or load one) from Home to enable Project"),
@@ -60,41 +59,19 @@ Rectangle {
         return controller && controller[name] !== undefined ? controller[name] : fallback
     }
 
-    function _parseIteration(text) {
-        const match = _iterationPattern.exec(text)
-        return match ? parseInt(match[1], 10) : 0
-    }
-
     function _currentIteration() {
         if (!running)
             return 0
-        if (isFinalizing && _lastIterFromStatusText > 0)
-            return _lastIterFromStatusText
-        const parsed = _parseIteration(statusText)
-        if (parsed > 0)
-            return parsed
-        return Math.floor(Number(_controllerValue("progress", 0)) * Math.max(1, maxIterations))
+        return SolveProgress.runningIteration(statusText, isFinalizing, _lastIterFromStatusText,
+                                              _controllerValue("progress", 0), maxIterations)
     }
 
-    // A solve may stop early at its target, so a tighter target means a longer full scale.
     function _wheelTotal() {
-        const maxIt = Math.max(1, maxIterations)
-        const t = targetExploitability
-        if (!isFinite(t) || t <= 0)
-            return maxIt
-        if (t >= 1.0)
-            return Math.min(maxIt, 150)
-        if (t >= 0.5)
-            return Math.min(maxIt, 200)
-        if (t >= 0.1)
-            return Math.min(maxIt, 300)
-        return maxIt
+        return SolveProgress.wheelTotal(maxIterations, targetExploitability)
     }
 
     function _progressValue() {
-        if (!running)
-            return 0
-        return Math.max(0, Math.min(1, currentIteration / Math.max(1, progressWheelTotalIterations)))
+        return running ? SolveProgress.wheelFraction(currentIteration, progressWheelTotalIterations) : 0
     }
 
     function isTabEnabled(index) {
@@ -124,7 +101,7 @@ Rectangle {
     }
 
     onStatusTextChanged: {
-        const iteration = _parseIteration(statusText)
+        const iteration = SolveProgress.parseIteration(statusText)
         if (iteration > 0)
             _lastIterFromStatusText = iteration
     }

@@ -131,7 +131,8 @@ Card {
 
                     objectName: "target_" + modelData.value
                     implicitHeight: card._quickButtonHeight
-                    horizontalPadding: card.theme.spaceMd
+                    // Narrow, so that the first row of the Setup page fits a window of 1540 pixels.
+                    horizontalPadding: card.theme.spaceSm
                     theme: card.theme
                     text: modelData.text
                     onClicked: card.settingEdited("targetExploitability", modelData.value)

@@ -70,6 +70,9 @@ Item {
                                                         : _fallbackWindowWidth
     property alias oopMatrix: oopRangePanel.matrix
     property alias ipMatrix: ipRangePanel.matrix
+    // The weight, in percent, that a newly painted hand gets; each range card edits its own.
+    property alias oopClickWeightPct: oopRangePanel.clickWeightPct
+    property alias ipClickWeightPct: ipRangePanel.clickWeightPct
 
     property string _saveProfileError: ""
     property string _loadProfileError: ""

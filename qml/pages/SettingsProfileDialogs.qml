@@ -207,6 +207,7 @@ Item {
                     border.width: 1
 
                     Text {
+                        objectName: "profileName"
                         anchors.left: parent.left
                         anchors.right: createdText.left
                         anchors.leftMargin: dialogs.theme.spaceMd

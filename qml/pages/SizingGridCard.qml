@@ -30,6 +30,8 @@ Card {
     readonly property int _jamDecimals: 3
     readonly property real _jamMaxPct: 1000.0
     readonly property real _disabledOpacity: 0.5
+    // Narrower than a street column: the jam row is the widest line of the card.
+    readonly property int _jamFieldWidth: 56
 
     signal settingEdited(string key, var value)
 
@@ -187,7 +189,7 @@ Card {
 
             SettingNumberField {
                 objectName: card._jamPctKey
-                Layout.preferredWidth: card.streetColumnWidth
+                Layout.preferredWidth: card._jamFieldWidth
                 theme: card.theme
                 enabled: jamSwitch.checked
                 opacity: enabled ? 1.0 : card._disabledOpacity
