@@ -86,6 +86,8 @@ int run_application(int& argc, char** argv, const LaunchOptions& options) {
     QGuiApplication::setQuitOnLastWindowClosed(true);
 
     QQmlApplicationEngine engine;
+    // The module's documents in subfolders import the module itself, which lives under qrc:/Kelvane/.
+    engine.addImportPath(QStringLiteral("qrc:/"));
     // Created before the first load, so the first document already comes up in the saved language.
     LanguageManager language_manager(&engine);
     engine.rootContext()->setContextProperty(QStringLiteral("languageManager"), &language_manager);
