@@ -3,6 +3,7 @@
 // makes the ordinary ones fade; resting on a day shows its figures after a short delay.
 import QtQuick
 import QtQuick.Controls
+import Kelvane
 
 Item {
     id: grid
@@ -17,25 +18,14 @@ Item {
     readonly property int cellSize: _cellSizeFor(width - _labelColumnWidth, weekCount)
     readonly property int drawnCellSize: _drawnSizeFor(cellSize)
 
-    // Dark values used when the grid is shown without a theme; the three levels are the classic greens.
-    readonly property var _fallback: ({
-        surface: "#1C2128",
-        surface2: "#21262D",
-        stroke: "#30363D",
-        text: "#F0F6FC",
-        textMuted: "#8B949E",
-        levelOne: "#0E4429",
-        levelTwo: "#26A641",
-        levelThree: "#39D353",
-        radiusXs: 4,
-        radiusSm: 8,
-        spaceSm: 8,
-        fontFamily: "sans-serif",
-        fontMono: "monospace"
-    })
+    // The dark theme's tokens when the grid is shown without a theme.
+    readonly property Theme _darkTheme: Theme {}
+    readonly property var _theme: theme ? theme : _darkTheme
+    readonly property Typography _defaultType: Typography {}
+    readonly property var _type: type ? type : _defaultType
     readonly property int _labelColumnWidth: 34
     readonly property int _monthRowHeight: 18
-    readonly property int _labelSize: type ? type.labelSm : 11
+    readonly property int _labelSize: _type.labelSm
     readonly property int _minCellSize: 14
     readonly property int _minDrawnSize: 10
     readonly property int _cellGap: 2
@@ -54,7 +44,7 @@ Item {
     property int _tipIndex: -1
 
     function _t(token) {
-        return theme ? theme[token] : _fallback[token]
+        return _theme[token]
     }
 
     function _weeksIn(length) {
@@ -101,11 +91,9 @@ Item {
         const level = _solveLevel(solves)
         if (level <= 0)
             return _t("surface2")
-        if (!theme)
-            return _fallback[level === 1 ? "levelOne" : level === 2 ? "levelTwo" : "levelThree"]
         if (level === 1)
-            return theme.withOpacity(theme.accent, _singleSolveAlpha)
-        return level === 2 ? theme.accentMuted : theme.accent
+            return _theme.withOpacity(_theme.accent, _singleSolveAlpha)
+        return level === 2 ? _theme.accentMuted : _theme.accent
     }
 
     function _fillColor(day) {
@@ -117,8 +105,7 @@ Item {
             return "transparent"
         if (_solveLevel(day.solves) <= 0)
             return _t("stroke")
-        const accent = theme ? theme.accent : _fallback.levelThree
-        return Qt.darker(accent, 1 + _borderDarkening)
+        return Qt.darker(_theme.accent, 1 + _borderDarkening)
     }
 
     function _tooltipText(day) {

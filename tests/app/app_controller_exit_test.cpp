@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "controller_test_support.h"
+#include "settings_sandbox.h"
 #include "session/detached_threads.h"
 
 using kelvane_app::AppController;
@@ -34,9 +35,7 @@ class AppControllerExitTest : public QObject {
 
   private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
-        QCoreApplication::setOrganizationName("OrvanthisControllerTest");
-        QCoreApplication::setApplicationName("OrvanthisControllerTest");
+        kelvane_test::use_private_settings_store();
         QVERIFY(!loadSpot("turn.json").isEmpty());
     }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "controller_test_support.h"
+#include "settings_sandbox.h"
 
 using kelvane_app::AppController;
 using kelvane_test::loadSpot;
@@ -52,9 +53,7 @@ class AppControllerLockNumberingTest : public QObject {
   private slots:
     void initTestCase() {
         qputenv("KELVANE_ACTIONPLAN_MAX_WORKERS", "2");
-        QStandardPaths::setTestModeEnabled(true);
-        QCoreApplication::setOrganizationName("OrvanthisLockNumberingTest");
-        QCoreApplication::setApplicationName("OrvanthisLockNumberingTest");
+        kelvane_test::use_private_settings_store();
     }
 
     void lockSurvivesReSolveAndProjectFile() {

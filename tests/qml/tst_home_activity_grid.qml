@@ -209,18 +209,19 @@ TestCase {
         }
     }
 
+    // Without a theme the grid colours its days as the dark theme does.
     function test_cellColorWithoutTheme_data() {
         return [
-            {tag: "none", solves: 0, color: "#21262D"},
-            {tag: "one", solves: 1, color: "#0E4429"},
-            {tag: "two", solves: 2, color: "#26A641"},
-            {tag: "three", solves: 3, color: "#39D353"},
-            {tag: "many", solves: 12, color: "#39D353"}
+            {tag: "none", solves: 0, level: 0},
+            {tag: "one", solves: 1, level: 1},
+            {tag: "two", solves: 2, level: 2},
+            {tag: "three", solves: 3, level: 3},
+            {tag: "many", solves: 12, level: 3}
         ]
     }
 
     function test_cellColorWithoutTheme(data) {
-        verify(Qt.colorEqual(makeGrid().cellColor(data.solves), data.color))
+        verify(Qt.colorEqual(makeGrid().cellColor(data.solves), expectedColor(darkTheme, data.level)))
     }
 
     function test_busyDayDoesNotRescale() {
