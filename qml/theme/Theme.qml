@@ -44,6 +44,12 @@ QtObject {
     readonly property color actionRaise: dark ? "#F0883E" : "#EA580C"
     readonly property color actionAllIn: dark ? "#FF7B72" : "#EF4444"
 
+    // Sized bets and raises of one node, coloured by their rank within the node, smallest first.
+    readonly property var betRankColors: dark ? ["#818CF8", "#A78BFA", "#C084FC", "#E879F9", "#F0ABFC"]
+                                              : ["#4F46E5", "#7C3AED", "#9333EA", "#C026D3", "#BE185D"]
+    readonly property var raiseRankColors: dark ? ["#FDBA74", "#FB923C", "#F97316", "#EA580C", "#C2410C"]
+                                                : ["#F59E0B", "#F97316", "#EA580C", "#C2410C", "#9A3412"]
+
     // Card faces stay light in both modes, so spades keep one dark ink.
     readonly property color suitSpades: "#1F2937"
     readonly property color suitHearts: dark ? "#F85149" : "#DC2626"
