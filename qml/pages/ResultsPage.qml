@@ -1,5 +1,14 @@
-// The Results page: the solved tree and its strategies.
+// The Results page: the solved tree walked one action at a time on the left, the current node's strategy on the
+// right, and node locking. Every node read goes through the controller's node queries; the page reads each once
+// per node change and keeps the answers.
 import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Kelvane
+import "ResultsStrategy.js" as ResultsStrategy
+import "HandSearch.js" as HandSearch
+import "ChanceCards.js" as ChanceCards
+import "../components/RangeText.js" as RangeText
 
 Item {
     id: page
@@ -11,12 +20,428 @@ Item {
     property real rakePercent: 0.0
     property int rakeCap: 0
 
-    Text {
-        anchors.centerIn: parent
-        text: qsTr("Results")
-        color: page.theme.textMuted
-        font.family: page.theme.fontFamily
-        font.pixelSize: page.type.displaySm
-        font.weight: page.type.weightSemibold
+    property ListModel treeLevels: ListModel {}
+    property int currentNodeIndex: 0
+    property string selectedPlayer: "OOP"
+    property var nodePath: []
+    property string treeBoardText: ""
+    property var chanceCardDisplayOverrideByNode: ({})
+    property string selectedHandClass: ""
+    property string handSearchText: ""
+    property string selectedBucket: ""
+    property var handWeights: ({})
+    property var handColors: ({})
+    property var handActionTypeList: []
+    property var handActionProbs: ({})
+    property var handActionTypes: ({})
+
+    property var currentActions: []
+    property var currentHandCombos: []
+    property var currentBuckets: []
+    readonly property var visibleHandCombos: HandSearch.visibleCombos(currentHandCombos, {
+        noiseFilter: _parseBoardCardsNormalized().length >= _turnBoardCards,
+        handClass: selectedHandClass,
+        bucket: selectedBucket,
+        searchText: handSearchText
+    })
+
+    property int chancePickerLevelIndex: -1
+    property string chancePickerTitle: ""
+    property var chancePickerActions: []
+    property var chancePickerIndexByCard: ({})
+    property var chancePickerAvailableCardIndices: []
+    property string _chancePickerDeal: ""
+    property string chancePickerBoardText: ""
+    readonly property string _rankOrder: ResultsStrategy.rankOrder
+    readonly property var _suitOrder: ChanceCards.suitOrder
+
+    property bool nodeLockMode: false
+    property int nodeLockSelectedActionIndex: -1
+    property string nodeLockWeightText: "1.0"
+    property var nodeLocksByNode: ({})
+    readonly property var nodeLockActionList: _nodeLockActionList()
+
+    readonly property bool hasResults: _resultCount() > 0
+    readonly property var _currentMeta: _metaForNode(currentNodeIndex)
+    readonly property int _turnBoardCards: 4
+    readonly property var _handLabels: RangeText.allHands()
+
+    // A query's answers change only with new results, so readers go through this to re-read on them.
+    function _resultCount() {
+        if (!controller || typeof controller.treeNodeCount !== "function")
+            return 0
+        return controller.resultIterations >= 0 ? controller.treeNodeCount() : 0
+    }
+
+    function _metaForNode(index) {
+        if (_resultCount() <= 0 || index < 0)
+            return ({})
+        return controller.nodeMeta(index)
+    }
+
+    function _actionsForNode(index) {
+        if (_resultCount() <= 0 || index < 0)
+            return []
+        return controller.nodeActions(index)
+    }
+
+    function _safeActionAt(actions, index) {
+        return actions && index >= 0 && index < actions.length ? actions[index] : null
+    }
+
+    function _isValidNode(index) {
+        return index !== undefined && index >= 0 && index < _resultCount()
+    }
+
+    function resetTreeToRoot() {
+        treeLevels.clear()
+        treeLevels.append({nodeIndex: 0, selectedActionIndex: -1})
+        _showNode(0)
+        rebuildBreadcrumbs()
+    }
+
+    function selectActionAtLevel(level, action) {
+        if (level !== treeLevels.count - 1 || treeLevels.get(level).selectedActionIndex !== -1)
+            return
+        const row = _safeActionAt(_actionsForNode(treeLevels.get(level).nodeIndex), action)
+        if (!row)
+            return
+        treeLevels.setProperty(level, "selectedActionIndex", action)
+        rebuildBreadcrumbs()
+        const child = row.childIndex
+        // A terminal child has nothing to show: the path ends with the action marked.
+        if (!_isValidNode(child) || _metaForNode(child).nodeType === "terminal")
+            return
+        treeLevels.append({nodeIndex: child, selectedActionIndex: -1})
+        _showNode(child)
+        rebuildBreadcrumbs()
+    }
+
+    function navigateToBreadcrumb(i) {
+        const keep = Math.max(1, i + 1)
+        if (treeLevels.count > keep)
+            treeLevels.remove(keep, treeLevels.count - keep)
+        const last = treeLevels.count - 1
+        treeLevels.setProperty(last, "selectedActionIndex", -1)
+        _showNode(treeLevels.get(last).nodeIndex)
+        rebuildBreadcrumbs()
+    }
+
+    function _selectedActionName(level) {
+        const row = treeLevels.get(level)
+        const action = _safeActionAt(_actionsForNode(row.nodeIndex), row.selectedActionIndex)
+        return action ? String(action.name) : ""
+    }
+
+    function rebuildBreadcrumbs() {
+        const path = ["Root"]
+        for (let level = 0; level < treeLevels.count; ++level) {
+            const name = _selectedActionName(level)
+            if (name !== "")
+                path.push(name)
+        }
+        nodePath = path
+        treeBoardText = _boardFromTreeSelections()
+    }
+
+    function _levelCards(levelCount) {
+        const levels = []
+        for (let level = 0; level < levelCount; ++level) {
+            const node = treeLevels.get(level).nodeIndex
+            const name = _selectedActionName(level)
+            const isChance = _metaForNode(node).nodeType === "chance"
+            const override = chanceCardDisplayOverrideByNode[String(node)]
+            levels.push({name: name, override: name !== "" && isChance && override ? override : ""})
+        }
+        return levels
+    }
+
+    function _boardFromTreeSelections() {
+        return ChanceCards.boardFromSelections(boardText, _levelCards(treeLevels.count))
+    }
+
+    function _showNode(index) {
+        if (currentNodeIndex === index)
+            _onCurrentNodeChanged()
+        else
+            currentNodeIndex = index
+    }
+
+    function _onCurrentNodeChanged() {
+        const meta = _metaForNode(currentNodeIndex)
+        if (meta.player !== undefined && meta.player !== "")
+            selectedPlayer = meta.player
+        selectedHandClass = ""
+        handSearchText = ""
+        currentBuckets = _resultCount() > 0 ? controller.nodeHandBuckets(currentNodeIndex) : []
+        // Clearing the bucket refreshes the matrix by itself.
+        if (selectedBucket !== "")
+            selectedBucket = ""
+        else
+            refreshHandMatrix()
+    }
+
+    function openChancePicker(level, node) {
+        const meta = _metaForNode(node)
+        const actions = _actionsForNode(node)
+        const indexByCard = {}
+        const available = []
+        for (let i = 0; i < actions.length; ++i) {
+            const name = String(actions[i].name)
+            if (name.length === 2)
+                indexByCard[name] = i
+            available.push(i)
+        }
+        chancePickerLevelIndex = level
+        _chancePickerDeal = meta.chanceDeal || ""
+        chancePickerTitle = _chancePickerDeal === "river" ? "Choose River Card" : "Choose Turn Card"
+        chancePickerActions = actions
+        chancePickerIndexByCard = indexByCard
+        chancePickerAvailableCardIndices = available
+        chancePickerBoardText = ChanceCards.boardFromSelections(boardText, _levelCards(level))
+        chancePicker.open()
+    }
+
+    function _chanceCardIndexForSelection(card) {
+        return ChanceCards.chanceCardIndex(card, chancePickerIndexByCard, chancePickerBoardText)
+    }
+
+    function _chooseChanceAction(action, displayCard) {
+        const level = chancePickerLevelIndex
+        if (level < 0 || level >= treeLevels.count || !_safeActionAt(chancePickerActions, action))
+            return
+        const overrides = Object.assign({}, chanceCardDisplayOverrideByNode)
+        overrides[String(treeLevels.get(level).nodeIndex)] = displayCard
+        chanceCardDisplayOverrideByNode = overrides
+        chancePicker.close()
+        selectActionAtLevel(level, action)
+    }
+
+    function chooseChanceCard(action, displayCardText) {
+        const row = _safeActionAt(chancePickerActions, action)
+        if (row)
+            _chooseChanceAction(action, displayCardText ? displayCardText : String(row.name))
+    }
+
+    function chooseChanceCardRandom() {
+        const indices = chancePickerAvailableCardIndices
+        if (indices.length === 0)
+            return
+        const action = indices[Math.floor(Math.random() * indices.length)]
+        _chooseChanceAction(action, String(chancePickerActions[action].name))
+    }
+
+    function _colorizeBetRaiseActions(list) {
+        return ResultsStrategy.colorizeBetRaiseActions(list, theme.betRankColors, theme.raiseRankColors)
+    }
+
+    function _handClassFromCards(c1, c2) {
+        return ResultsStrategy.handClassFromCards(c1, c2)
+    }
+
+    function _matchSearchTokenToCombo(token, c1, c2) {
+        return HandSearch.matchSearchTokenToCombo(token, c1, c2)
+    }
+
+    function _parseBoardCardsNormalized() {
+        const board = ChanceCards.compactBoard(boardText)
+        const cards = []
+        for (let i = 0; i + 1 < board.length; i += 2)
+            cards.push(board.charAt(i).toUpperCase() + board.charAt(i + 1).toLowerCase())
+        return cards
+    }
+
+    function _chanceEntry(deal) {
+        return {name: "Random " + (deal ? deal : "card") + " card", actionType: "chance", frequency: 1.0,
+                combos: NaN, equity: NaN, ev: NaN}
+    }
+
+    function _actionDefinitions(index) {
+        const stats = controller.nodeActionStats(index)
+        return _colorizeBetRaiseActions(stats.length > 0 ? stats : controller.nodeActions(index))
+    }
+
+    function _emptyHandMatrix() {
+        handWeights = {}
+        handColors = {}
+        handActionTypeList = []
+        handActionProbs = {}
+        handActionTypes = {}
+    }
+
+    function refreshHandMatrix() {
+        const meta = _metaForNode(currentNodeIndex)
+        const definitions = _resultCount() > 0 ? _actionDefinitions(currentNodeIndex) : []
+        currentActions = meta.nodeType === "chance" ? [_chanceEntry(meta.chanceDeal)] : definitions
+        const strategy = _resultCount() > 0 ? controller.nodeHandStrategy(currentNodeIndex) : ({})
+        currentHandCombos = _resultCount() > 0 ? controller.nodeHandCombos(currentNodeIndex) : []
+        if (!strategy || Object.keys(strategy).length === 0) {
+            _emptyHandMatrix()
+            return
+        }
+        const inputs = ResultsStrategy.matrixInputs(strategy, definitions, currentHandCombos, selectedBucket,
+                                                    nodeLocksByNode[String(currentNodeIndex)], _handLabels, theme)
+        handWeights = inputs.weights
+        handColors = inputs.colors
+        handActionTypeList = inputs.typeList
+        handActionProbs = inputs.probs
+        handActionTypes = inputs.dominantTypes
+    }
+
+    function toggleHandFilter(hand) {
+        selectedHandClass = selectedHandClass === hand ? "" : hand
+    }
+
+    function toggleBucketFilter(name) {
+        selectedBucket = selectedBucket === name ? "" : name
+    }
+
+    function _handActionsForProbs(probs) {
+        const actions = []
+        for (let i = 0; probs && i < probs.length; ++i) {
+            const definition = _safeActionAt(currentActions, i)
+            actions.push({
+                name: definition ? definition.name : "",
+                actionType: definition ? definition.actionType : "",
+                color: definition && definition.color ? definition.color : undefined,
+                frequency: Number(probs[i])
+            })
+        }
+        return actions
+    }
+
+    function _investedBy(meta, player) {
+        return Number(player === "IP" ? meta.investedIp : meta.investedOop) || 0
+    }
+
+    function _hasPlayer(meta) {
+        return meta.player === "OOP" || meta.player === "IP"
+    }
+
+    function _potSize() {
+        return Number(_currentMeta.pot) || 0
+    }
+
+    function _stackRemaining() {
+        const meta = _currentMeta
+        if (!_hasPlayer(meta))
+            return 0
+        return Math.max(0, (Number(meta.effectiveStack) || 0) - _investedBy(meta, selectedPlayer))
+    }
+
+    function _toCallAmount() {
+        const meta = _currentMeta
+        if (!_hasPlayer(meta))
+            return 0
+        const larger = Math.max(_investedBy(meta, "OOP"), _investedBy(meta, "IP"))
+        return Math.max(0, larger - _investedBy(meta, selectedPlayer))
+    }
+
+    function _nodeLockActionList() {
+        const actions = _actionsForNode(currentNodeIndex)
+        return actions.length > 0 ? actions : currentActions
+    }
+
+    function _currentNodeIsLockable() {
+        return _metaForNode(currentNodeIndex).nodeType === "decision"
+    }
+
+    function _parseLockWeight() {
+        const value = Number(String(nodeLockWeightText).trim())
+        if (String(nodeLockWeightText).trim() === "" || isNaN(value))
+            return 1.0
+        return Math.max(0, Math.min(1, value))
+    }
+
+    function applyNodeLockToHand(nodeIndex, handLabel) {
+        if (!nodeLockMode || nodeLockSelectedActionIndex < 0)
+            return
+        if (_metaForNode(nodeIndex).nodeType !== "decision")
+            return
+        const p = _parseLockWeight()
+        const locks = Object.assign({}, nodeLocksByNode)
+        const nodeLocks = Object.assign({}, locks[String(nodeIndex)] || {})
+        nodeLocks[handLabel] = {actionIndex: nodeLockSelectedActionIndex, actionProb: p}
+        locks[String(nodeIndex)] = nodeLocks
+        nodeLocksByNode = locks
+        controller.setNodeLock(nodeIndex, handLabel, nodeLockSelectedActionIndex, p)
+        refreshHandMatrix()
+    }
+
+    function resetNodeLockEdits(nodeIndex) {
+        const locks = Object.assign({}, nodeLocksByNode)
+        delete locks[String(nodeIndex)]
+        nodeLocksByNode = locks
+        nodeLockSelectedActionIndex = -1
+        nodeLockWeightText = "1.0"
+        if (controller)
+            controller.clearNodeLocks(nodeIndex)
+        refreshHandMatrix()
+    }
+
+    function enterNodeLockMode() {
+        nodeLockMode = true
+        nodeLockSelectedActionIndex = -1
+    }
+
+    function enterStandardMode() {
+        nodeLockMode = false
+        resetNodeLockEdits(currentNodeIndex)
+        nodeLockSelectedActionIndex = -1
+    }
+
+    function reSolve() {
+        if (controller && _currentNodeIsLockable())
+            controller.reSolveWithNodeLocks()
+    }
+
+    function _onMatrixClick(hand) {
+        if (nodeLockMode)
+            applyNodeLockToHand(currentNodeIndex, hand)
+        else
+            toggleHandFilter(hand)
+    }
+
+    onCurrentNodeIndexChanged: _onCurrentNodeChanged()
+    onSelectedBucketChanged: refreshHandMatrix()
+    Component.onCompleted: resetTreeToRoot()
+
+    Connections {
+        target: page.controller
+        ignoreUnknownSignals: true
+
+        function onResultsChanged() {
+            page.resetTreeToRoot()
+        }
+    }
+
+    SplitView {
+        anchors.fill: parent
+        orientation: Qt.Horizontal
+
+        ResultsTreePanel {
+            SplitView.preferredWidth: 320
+            SplitView.minimumWidth: 280
+            page: page
+            theme: page.theme
+            type: page.type
+        }
+
+        ResultsStrategyView {
+            SplitView.fillWidth: true
+            SplitView.minimumWidth: 500
+            page: page
+            theme: page.theme
+            type: page.type
+        }
+    }
+
+    ChancePickerPopup {
+        id: chancePicker
+
+        objectName: "chancePicker"
+        page: page
+        theme: page.theme
+        type: page.type
     }
 }
