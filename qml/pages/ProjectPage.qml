@@ -74,6 +74,28 @@ Item {
     property alias oopClickWeightPct: oopRangePanel.clickWeightPct
     property alias ipClickWeightPct: ipRangePanel.clickWeightPct
 
+    // The range library beside each matrix; its state lives in the library store and is reached here by name.
+    property alias oopRangeCategory: rangeLibrary.oopRangeCategory
+    property alias oopSelectedId: rangeLibrary.oopSelectedId
+    property alias oopOpenFolderIds: rangeLibrary.oopOpenFolderIds
+    property alias oopStandardRanges: rangeLibrary.oopStandardRanges
+    property alias oopExploitRanges: rangeLibrary.oopExploitRanges
+    property alias oopCustomRanges: rangeLibrary.oopCustomRanges
+    property alias oopStandardOverrides: rangeLibrary.oopStandardOverrides
+    property alias oopExploitOverrides: rangeLibrary.oopExploitOverrides
+    property alias ipRangeCategory: rangeLibrary.ipRangeCategory
+    property alias ipSelectedId: rangeLibrary.ipSelectedId
+    property alias ipOpenFolderIds: rangeLibrary.ipOpenFolderIds
+    property alias ipStandardRanges: rangeLibrary.ipStandardRanges
+    property alias ipExploitRanges: rangeLibrary.ipExploitRanges
+    property alias ipCustomRanges: rangeLibrary.ipCustomRanges
+    property alias ipStandardOverrides: rangeLibrary.ipStandardOverrides
+    property alias ipExploitOverrides: rangeLibrary.ipExploitOverrides
+    property alias _presetLoadError: rangeLibrary._presetLoadError
+    property alias _exportStandardError: rangeLibrary._exportStandardError
+    property alias _exportExploitError: rangeLibrary._exportExploitError
+    property alias _i18nRev: rangeLibrary._i18nRev
+
     property string _saveProfileError: ""
     property string _loadProfileError: ""
     property string _loadProfileSelectedId: ""
@@ -82,6 +104,13 @@ Item {
     property bool _profilesLoaded: false
 
     readonly property SettingsProfileStore _profileStore: SettingsProfileStore {}
+    readonly property RangeLibraryStore _rangeLibrary: RangeLibraryStore {
+        id: rangeLibrary
+        controller: page.controller
+        oopRangeText: page.oopRangeText
+        ipRangeText: page.ipRangeText
+        onRangeTextChosen: (player, text) => page._storeSetting(player + "RangeText", text)
+    }
     readonly property Theme _darkTheme: Theme {}
     readonly property var _theme: theme ? theme : _darkTheme
     readonly property Typography _defaultType: Typography {}
@@ -130,8 +159,34 @@ Item {
 
     signal goToSolve()
 
-    function openImportRangeDialog(side) {
+    // ---- Range library
+
+    function rangesFor(player, category) { return rangeLibrary.rangesFor(player, category) }
+    function categoryLabel(cat) { return rangeLibrary.categoryLabel(cat) }
+    function rangeDisplayName(category, rawName) { return rangeLibrary.rangeDisplayName(category, rawName) }
+    function listModelFor(player) { return rangeLibrary.listModelFor(player) }
+    function openSaveRangeDialog(player) { rangeDialogs.openSaveRange(player) }
+    function openAddFolderDialog(player) { rangeDialogs.openAddFolder(player) }
+    function openImportRangeDialog(focusPlayer) { rangeDialogs.openImport(focusPlayer) }
+    function openDeleteSelectedDialog(player) { rangeDialogs.openDeleteSelected(player) }
+    function commitSaveRange(player, rawName, text) { return rangeLibrary.commitSaveRange(player, rawName, text) }
+    function commitAddFolder(player, rawName) { return rangeLibrary.commitAddFolder(player, rawName) }
+    function commitImportRange(rawName) { return rangeLibrary.commitImportRange(rawName) }
+    function deleteSelectedItem(player) { return rangeLibrary.deleteSelectedItem(player) }
+    function _newNodeId() { return rangeLibrary._newNodeId() }
+    function _flattenTreeFor(player) { return rangeLibrary._flattenTreeFor(player) }
+    function _toggleOpenFolder(player, id) { rangeLibrary._toggleOpenFolder(player, id) }
+    function _sanitizeCustomTree(nodes) { return rangeLibrary._sanitizeCustomTree(nodes) }
+    function _sanitizePresetList(list) { return rangeLibrary._sanitizePresetList(list) }
+    function _buildStandardTree(list) { return rangeLibrary._buildStandardTree(list) }
+    function _buildExploitTree(player, standardTree) { return rangeLibrary._buildExploitTree(player, standardTree) }
+    function _applyOverridesToTree(nodes, overrides, path) {
+        return rangeLibrary._applyOverridesToTree(nodes, overrides, path)
     }
+    function _stripWeightsText(text) { return rangeLibrary._stripWeightsText(text) }
+    function _uniqueRangeName(siblings, raw) { return rangeLibrary._uniqueRangeName(siblings, raw) }
+    function _loadBundledPresetRanges() { rangeLibrary._loadBundledPresetRanges() }
+    function _flattenStandardForExport(tree) { return rangeLibrary._flattenStandardForExport(tree) }
 
     // Range text helpers, shared with the range cards.
     function parseRangeWeights(text) {
@@ -424,9 +479,13 @@ Item {
         if (_profilesLoaded)
             _profileStore.write(settingsProfiles)
     }
+    // The library's overrides come first, as the bundled presets are built with them; the Custom lists last.
     Component.onCompleted: {
+        rangeLibrary.loadOverrides()
+        rangeLibrary._loadBundledPresetRanges()
         settingsProfiles = _profileStore.read()
         _profilesLoaded = true
+        rangeLibrary.loadCustomTrees()
     }
 
     Flickable {
@@ -574,6 +633,38 @@ Item {
         onCardPicked: card => page._pickCard(card)
         onClearRequested: page._clearPickedSlot()
         onClosed: page.editingCardIndex = -1
+    }
+
+    RangeLibraryPanel {
+        objectName: "oopRangeLibrary"
+        parent: oopRangePanel.librarySlot
+        anchors.fill: parent
+        theme: page._theme
+        type: page._type
+        library: rangeLibrary
+        dialogs: rangeDialogs
+        player: "oop"
+        rangeText: page.oopRangeText
+    }
+
+    RangeLibraryPanel {
+        objectName: "ipRangeLibrary"
+        parent: ipRangePanel.librarySlot
+        anchors.fill: parent
+        theme: page._theme
+        type: page._type
+        library: rangeLibrary
+        dialogs: rangeDialogs
+        player: "ip"
+        rangeText: page.ipRangeText
+    }
+
+    RangeLibraryDialogs {
+        id: rangeDialogs
+        objectName: "rangeDialogs"
+        theme: page._theme
+        type: page._type
+        library: rangeLibrary
     }
 
     SettingsProfileDialogs {
