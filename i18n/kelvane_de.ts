@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>All-in hinzufügen, wenn Jam unter</translation>
+        <translation>All-in, wenn Jam unter</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>

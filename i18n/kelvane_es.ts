@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Añadir all-in si el jam es menor que</translation>
+        <translation>All-in si jam menor que</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>
@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation>Tamaños de apuesta (%)</translation>
+        <translation>Apuestas (%)</translation>
     </message>
     <message>
         <source>Board</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation>Tamaños de subida (%)</translation>
+        <translation>Subidas (%)</translation>
     </message>
     <message>
         <source>Rake (%)</source>

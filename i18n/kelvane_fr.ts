@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Ajouter all-in si le jam est inférieur à</translation>
+        <translation>All-in si le jam est sous</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>
@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation>Tailles de mise (%)</translation>
+        <translation>Mises (%)</translation>
     </message>
     <message>
         <source>Board</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation>Tailles de relance (%)</translation>
+        <translation>Relances (%)</translation>
     </message>
     <message>
         <source>Rake (%)</source>
@@ -866,7 +866,7 @@
     </message>
     <message>
         <source>Save current range…</source>
-        <translation>Enregistrer la range actuelle…</translation>
+        <translation>Enregistrer la range…</translation>
     </message>
     <message>
         <source>Save settings</source>

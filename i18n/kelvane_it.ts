@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Aggiungi all-in se il jam è inferiore a</translation>
+        <translation>All-in se il jam è sotto</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>

@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Dodaj all-in, gdy jam mniejszy niż</translation>
+        <translation>All-in, gdy jam poniżej</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>
@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation>Wielkości betów (%)</translation>
+        <translation>Bety (%)</translation>
     </message>
     <message>
         <source>Board</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation>Wielkości podbić (%)</translation>
+        <translation>Podbicia (%)</translation>
     </message>
     <message>
         <source>Rake (%)</source>

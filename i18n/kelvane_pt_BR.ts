@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Adicionar all-in se o jam for menor que</translation>
+        <translation>All-in se jam menor que</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>
@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation>Tamanhos de aposta (%)</translation>
+        <translation>Apostas (%)</translation>
     </message>
     <message>
         <source>Board</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation>Tamanhos de raise (%)</translation>
+        <translation>Raises (%)</translation>
     </message>
     <message>
         <source>Rake (%)</source>

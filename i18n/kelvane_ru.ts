@@ -522,7 +522,7 @@
     </message>
     <message>
         <source>Add all-in if jam less than</source>
-        <translation>Добавить олл-ин, если пуш меньше</translation>
+        <translation>Олл-ин, если пуш до</translation>
     </message>
     <message>
         <source>Add folder (IP)</source>
@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Bet sizes (%)</source>
-        <translation>Размеры бетов (%)</translation>
+        <translation>Беты (%)</translation>
     </message>
     <message>
         <source>Board</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Raise sizes (%)</source>
-        <translation>Размеры рейзов (%)</translation>
+        <translation>Рейзы (%)</translation>
     </message>
     <message>
         <source>Rake (%)</source>
@@ -866,7 +866,7 @@
     </message>
     <message>
         <source>Save current range…</source>
-        <translation>Сохранить текущий рейндж…</translation>
+        <translation>Сохранить рейндж…</translation>
     </message>
     <message>
         <source>Save settings</source>

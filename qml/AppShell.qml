@@ -87,8 +87,8 @@ Item {
     // Neither the iteration cap nor the target changes what a solve needs in memory.
     readonly property var _estimateKeys: _projectStateKeys.filter(
         key => ["betSizesText", "maxIterations", "targetExploitability"].indexOf(key) < 0)
-    readonly property var _pageTitles: [qsTr("Home"), qsTr("Setup"), qsTr("Solve"), qsTr("Results"),
-        qsTr("Settings")]
+    readonly property var _pageTitles: [qsTranslate("TopBar", "Home"), qsTranslate("TopBar", "Setup"),
+        qsTranslate("TopBar", "Solve"), qsTranslate("TopBar", "Results"), qsTranslate("TopBar", "Settings")]
 
     readonly property int _blankThreadFallback: 1
     readonly property int _defaultThreadFallback: 12

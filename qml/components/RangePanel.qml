@@ -32,7 +32,8 @@ Card {
     signal rangeTextEdited(string text)
 
     function _title() {
-        return player === "ip" ? qsTr("IP Range") : qsTr("OOP Range")
+        return player === "ip" ? qsTranslate("ProjectPage", "IP Range")
+                               : qsTranslate("ProjectPage", "OOP Range")
     }
 
     function _dotColor() {
@@ -95,7 +96,7 @@ Card {
                 objectName: "clearButton"
                 implicitHeight: 30
                 theme: root._theme
-                text: qsTr("Clear")
+                text: qsTranslate("ProjectPage", "Clear")
                 enabled: root.rangeText.trim() !== ""
                 onClicked: root.rangeTextEdited("")
             }
@@ -129,7 +130,7 @@ Card {
             spacing: root._theme.spaceSm
 
             Text {
-                text: qsTr("Weight")
+                text: qsTranslate("ProjectPage", "Weight")
                 color: root._theme.textMuted
                 font.family: root._theme.fontFamily
                 font.pixelSize: root._type.labelLg
@@ -141,7 +142,7 @@ Card {
                 objectName: "weightField"
                 Layout.preferredWidth: root._weightFieldWidth
                 theme: root._theme
-                placeholderText: qsTr("100")
+                placeholderText: qsTranslate("ProjectPage", "100")
                 horizontalAlignment: TextInput.AlignRight
                 font.family: root._theme.fontFamily
                 font.pixelSize: root._type.bodySm
@@ -170,7 +171,7 @@ Card {
             }
 
             Text {
-                text: qsTr("%")
+                text: qsTranslate("ProjectPage", "%")
                 color: root._theme.textMuted
                 font.family: root._theme.fontFamily
                 font.pixelSize: root._type.bodySm
@@ -183,7 +184,7 @@ Card {
                 Layout.leftMargin: root._theme.spaceSm
                 theme: root._theme
                 elideWhenIdle: true
-                placeholderText: qsTr("e.g., AA, KK, AKs, QQ+ or 50%")
+                placeholderText: qsTranslate("ProjectPage", "e.g., AA, KK, AKs, QQ+ or 50%")
                 text: root.rangeText
                 font.family: root._theme.fontMono
                 font.pixelSize: root._type.bodySm

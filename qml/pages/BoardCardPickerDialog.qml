@@ -19,25 +19,26 @@ SetupDialog {
 
     function _subHeading() {
         if (editingCardIndex === _riverIndex)
-            return qsTr("River card")
-        return editingCardIndex === _turnIndex ? qsTr("Turn card") : qsTr("Flop card")
+            return qsTranslate("ProjectPage", "River card")
+        return editingCardIndex === _turnIndex ? qsTranslate("ProjectPage", "Turn card")
+                                               : qsTranslate("ProjectPage", "Flop card")
     }
 
-    title: qsTr("Select card")
+    title: qsTranslate("ProjectPage", "Select card")
     modal: false
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
     footerButtons: [
         SecondaryButton {
             objectName: "clearCardButton"
             theme: picker.theme
-            text: qsTr("Clear card")
+            text: qsTranslate("ProjectPage", "Clear card")
             enabled: picker.editingCardIndex >= 0
             onClicked: picker.clearRequested()
         },
         SecondaryButton {
             objectName: "cancelCardButton"
             theme: picker.theme
-            text: qsTr("Cancel")
+            text: qsTranslate("ProjectPage", "Cancel")
             onClicked: picker.close()
         }
     ]

@@ -17,21 +17,21 @@ Card {
 
     // One row per field: label, property, decimals, bounds, the value text that is no number gives, placeholder.
     readonly property var _fields: [
-        {label: qsTr("Starting Pot"), key: "startingPot", decimals: 0, minimum: 1, maximum: 100000, fallback: 100,
-         placeholder: qsTr("e.g., 100")},
-        {label: qsTr("Effective Stack"), key: "effectiveStack", decimals: 0, minimum: 1, maximum: 100000, fallback: 100,
-         placeholder: qsTr("e.g., 100")},
-        {label: qsTr("Rake (%)"), key: "rakePercent", decimals: 3, minimum: 0.0, maximum: 100.0, fallback: 0.0,
-         placeholder: qsTr("e.g., 5.0")},
-        {label: qsTr("Rake Cap"), key: "rakeCap", decimals: 0, minimum: 0, maximum: 1000000, fallback: 0,
-         placeholder: qsTr("e.g., 0")},
-        {label: qsTr("Target Exploitability (%)"), key: "targetExploitability", decimals: 6, minimum: 0.0,
-         maximum: 100.0, fallback: 0.10, placeholder: qsTr("e.g., 0.10")}
+        {label: qsTranslate("ProjectPage", "Starting Pot"), key: "startingPot", decimals: 0, minimum: 1,
+         maximum: 100000, fallback: 100, placeholder: qsTranslate("ProjectPage", "e.g., 100")},
+        {label: qsTranslate("ProjectPage", "Effective Stack"), key: "effectiveStack", decimals: 0, minimum: 1,
+         maximum: 100000, fallback: 100, placeholder: qsTranslate("ProjectPage", "e.g., 100")},
+        {label: qsTranslate("ProjectPage", "Rake (%)"), key: "rakePercent", decimals: 3, minimum: 0.0,
+         maximum: 100.0, fallback: 0.0, placeholder: qsTranslate("ProjectPage", "e.g., 5.0")},
+        {label: qsTranslate("ProjectPage", "Rake Cap"), key: "rakeCap", decimals: 0, minimum: 0,
+         maximum: 1000000, fallback: 0, placeholder: qsTranslate("ProjectPage", "e.g., 0")},
+        {label: qsTranslate("ProjectPage", "Target Exploitability (%)"), key: "targetExploitability", decimals: 6,
+         minimum: 0.0, maximum: 100.0, fallback: 0.10, placeholder: qsTranslate("ProjectPage", "e.g., 0.10")}
     ]
     readonly property var _quickTargets: [
-        {text: qsTr("1%"), value: 1.0},
-        {text: qsTr("0.5%"), value: 0.5},
-        {text: qsTr("0.1%"), value: 0.1}
+        {text: qsTranslate("ProjectPage", "1%"), value: 1.0},
+        {text: qsTranslate("ProjectPage", "0.5%"), value: 0.5},
+        {text: qsTranslate("ProjectPage", "0.1%"), value: 0.1}
     ]
     readonly property int _titleIconSize: 16
     readonly property int _quickButtonHeight: 30
@@ -53,7 +53,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Game Settings")
+                text: qsTranslate("ProjectPage", "Game Settings")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm
@@ -117,7 +117,7 @@ Card {
 
             Text {
                 Layout.fillWidth: true
-                text: qsTr("Quick target")
+                text: qsTranslate("ProjectPage", "Quick target")
                 color: card.theme.textFaint
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.labelMd

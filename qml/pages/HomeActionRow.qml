@@ -77,7 +77,7 @@ Rectangle {
         }
 
         Text {
-            text: "→"
+            text: qsTranslate("HomePage", "→")
             color: area.containsMouse ? row.theme.accent : row.theme.textMuted
             font.family: row.theme.fontFamily
             font.pixelSize: row.type.headingSm

@@ -25,11 +25,11 @@ Card {
                 theme: card.theme
                 type: card.type
                 iconName: "calendar"
-                text: qsTr("Solve Activity")
+                text: qsTranslate("HomePage", "Solve Activity")
             }
 
             Text {
-                text: qsTr("Last 52 weeks (incl. upcoming days)")
+                text: qsTranslate("HomePage", "Last 52 weeks (incl. upcoming days)")
                 color: card.theme.textMuted
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.labelMd

@@ -34,10 +34,14 @@ Item {
     readonly property real _futureOpacity: 0.45
     readonly property int _tooltipDelay: 150
     readonly property int _tooltipGap: 4
-    readonly property var _weekdayNames: [qsTr("Mon"), qsTr("Tue"), qsTr("Wed"), qsTr("Thu"), qsTr("Fri"),
-        qsTr("Sat"), qsTr("Sun")]
-    readonly property var _monthNames: [qsTr("Jan"), qsTr("Feb"), qsTr("Mar"), qsTr("Apr"), qsTr("May"),
-        qsTr("Jun"), qsTr("Jul"), qsTr("Aug"), qsTr("Sep"), qsTr("Oct"), qsTr("Nov"), qsTr("Dec")]
+    readonly property var _weekdayNames: [qsTranslate("HomePage", "Mon"), qsTranslate("HomePage", "Tue"),
+        qsTranslate("HomePage", "Wed"), qsTranslate("HomePage", "Thu"), qsTranslate("HomePage", "Fri"),
+        qsTranslate("HomePage", "Sat"), qsTranslate("HomePage", "Sun")]
+    readonly property var _monthNames: [qsTranslate("HomePage", "Jan"), qsTranslate("HomePage", "Feb"),
+        qsTranslate("HomePage", "Mar"), qsTranslate("HomePage", "Apr"), qsTranslate("HomePage", "May"),
+        qsTranslate("HomePage", "Jun"), qsTranslate("HomePage", "Jul"), qsTranslate("HomePage", "Aug"),
+        qsTranslate("HomePage", "Sep"), qsTranslate("HomePage", "Oct"), qsTranslate("HomePage", "Nov"),
+        qsTranslate("HomePage", "Dec")]
 
     // The cell the pointer rests on, and the one whose tooltip shows once the delay has passed.
     property int _pendingIndex: -1
@@ -111,11 +115,12 @@ Item {
     function _tooltipText(day) {
         if (!_isDay(day))
             return ""
-        const date = day.isFuture ? qsTr("%1 (future)").arg(day.date) : String(day.date)
+        const date = day.isFuture ? qsTranslate("HomePage", "%1%2").arg(day.date).arg(qsTranslate("HomePage", " (future)"))
+                                  : String(day.date)
         return [date,
-                qsTr("Solves: %1").arg(_solveLevel(day.solves)),
-                qsTr("Avg iters: %1").arg(Math.round(Number(day.avgIterations) || 0)),
-                qsTr("Avg expl: %1").arg((Number(day.avgExploitability) || 0).toFixed(4))].join("\n")
+                qsTranslate("HomePage", "Solves: %1").arg(_solveLevel(day.solves)),
+                qsTranslate("HomePage", "Avg iters: %1").arg(Math.round(Number(day.avgIterations) || 0)),
+                qsTranslate("HomePage", "Avg expl: %1").arg((Number(day.avgExploitability) || 0).toFixed(4))].join("\n")
     }
 
     // The index into `days` under a point of the cell area, or -1 outside the days.

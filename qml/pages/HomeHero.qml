@@ -46,7 +46,7 @@ Rectangle {
             spacing: hero.theme.spaceSm
 
             Text {
-                text: qsTr("Orvanthis")
+                text: qsTranslate("HomePage", "Orvanthis")
                 color: hero.theme.text
                 font.family: hero.theme.fontFamily
                 font.pixelSize: hero.type.displayMd
@@ -55,7 +55,7 @@ Rectangle {
 
             Text {
                 Layout.fillWidth: true
-                text: qsTr("A modern, high-performance holdem solver")
+                text: qsTranslate("HomePage", "A modern, high-performance holdem solver")
                 color: hero.theme.textMuted
                 elide: Text.ElideRight
                 font.family: hero.theme.fontFamily
@@ -69,7 +69,7 @@ Rectangle {
                 PrimaryButton {
                     objectName: "heroNewSolveButton"
                     theme: hero.theme
-                    text: qsTr("New Solve")
+                    text: qsTranslate("HomePage", "New Solve")
                     iconText: "+"
                     onClicked: hero.newSolveClicked()
                 }
@@ -77,7 +77,7 @@ Rectangle {
                 SecondaryButton {
                     objectName: "heroSaveButton"
                     theme: hero.theme
-                    text: qsTr("Save")
+                    text: qsTranslate("HomePage", "Save")
                     iconName: "save"
                     onClicked: hero.saveClicked()
                 }
@@ -85,7 +85,7 @@ Rectangle {
                 SecondaryButton {
                     objectName: "heroOpenButton"
                     theme: hero.theme
-                    text: qsTr("Open File")
+                    text: qsTranslate("HomePage", "Open File")
                     iconName: "folder-open"
                     onClicked: hero.openClicked()
                 }

@@ -9,9 +9,12 @@ Card {
     property var type: null
 
     readonly property var _actions: [
-        {key: "newProject", icon: "target", title: qsTr("New Solve"), description: qsTr("Configure board, ranges, tree")},
-        {key: "quickSolve", icon: "bolt", title: qsTr("Quick Solve"), description: qsTr("Use default settings")},
-        {key: "importRange", icon: "chart", title: qsTr("Import Range"), description: qsTr("Load from file")}
+        {key: "newProject", icon: "target", title: qsTranslate("HomePage", "New Solve"),
+         description: qsTranslate("HomePage", "Configure board, ranges, tree")},
+        {key: "quickSolve", icon: "bolt", title: qsTranslate("HomePage", "Quick Solve"),
+         description: qsTranslate("HomePage", "Use default settings")},
+        {key: "importRange", icon: "chart", title: qsTranslate("HomePage", "Import Range"),
+         description: qsTranslate("HomePage", "Load from file")}
     ]
 
     // Carries the key of the chosen row: "newProject", "quickSolve" or "importRange".
@@ -26,7 +29,7 @@ Card {
             theme: card.theme
             type: card.type
             iconName: "bolt"
-            text: qsTr("Quick Actions")
+            text: qsTranslate("HomePage", "Quick Actions")
         }
 
         Repeater {

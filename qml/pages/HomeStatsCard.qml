@@ -12,7 +12,7 @@ Card {
     // The controller's play statistics map; missing keys count as no hands.
     property var stats: ({})
 
-    readonly property string _dash: "—"
+    readonly property string _dash: qsTranslate("HomePage", "—")
     readonly property string _joiner: " / "
     readonly property int _evDecimals: 3
     // Low enough to sit in the heading row without making it taller than the other cards' headings.
@@ -73,7 +73,7 @@ Card {
                 theme: card.theme
                 type: card.type
                 iconName: "gamepad"
-                text: qsTr("Play vs. Solution")
+                text: qsTranslate("HomePage", "Play vs. Solution")
             }
 
             SecondaryButton {
@@ -81,7 +81,7 @@ Card {
                 Layout.preferredHeight: card._clearButtonHeight
                 theme: card.theme
                 danger: true
-                text: qsTr("Clear")
+                text: qsTranslate("HomePage", "Clear")
                 onClicked: card._askToClear()
             }
         }
@@ -90,7 +90,7 @@ Card {
             objectName: "handsStat"
             Layout.fillWidth: true
             theme: card.theme
-            label: qsTr("Hands (Today / Total)")
+            label: qsTranslate("HomePage", "Hands (Today / Total)")
             value: card._handsText()
         }
 
@@ -98,18 +98,18 @@ Card {
             objectName: "accuracyStat"
             Layout.fillWidth: true
             theme: card.theme
-            label: qsTr("Accuracy (Today / Total)")
+            label: qsTranslate("HomePage", "Accuracy (Today / Total)")
             value: card._accuracyText()
-            unit: qsTr("%")
+            unit: qsTranslate("HomePage", "%")
         }
 
         StatCard {
             objectName: "evLossStat"
             Layout.fillWidth: true
             theme: card.theme
-            label: qsTr("Avg EV Loss (Today / Total)")
+            label: qsTranslate("HomePage", "Avg EV Loss (Today / Total)")
             value: card._evLossText()
-            unit: qsTr("EV")
+            unit: qsTranslate("HomePage", "EV")
         }
     }
 
@@ -117,8 +117,8 @@ Card {
         id: clearDialog
 
         objectName: "clearStatsDialog"
-        title: qsTr("Clear Play vs. Solution Stats")
-        text: qsTr("Clear all Play vs. Solution statistics (today + total)?")
+        title: qsTranslate("HomePage", "Clear Play vs. Solution Stats")
+        text: qsTranslate("HomePage", "Clear all Play vs. Solution statistics (today + total)?")
         buttons: MessageDialog.Ok | MessageDialog.Cancel
         onAccepted: card.clearConfirmed()
     }

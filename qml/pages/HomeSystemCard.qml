@@ -10,7 +10,7 @@ Card {
     // Read for its system figures only; absent figures show a dash.
     property var controller: null
 
-    readonly property string _dash: "—"
+    readonly property string _dash: qsTranslate("HomePage", "—")
 
     function _present(value) {
         return value !== undefined && value !== null && String(value).trim() !== ""
@@ -22,7 +22,7 @@ Card {
 
     function _threadsText() {
         const threads = Number(_read("systemThreadCount"))
-        return Number.isFinite(threads) && threads > 0 ? qsTr("%1 available").arg(threads) : _dash
+        return Number.isFinite(threads) && threads > 0 ? qsTranslate("HomePage", "%1 available").arg(threads) : _dash
     }
 
     function _memoryText() {
@@ -30,14 +30,15 @@ Card {
         const free = _read("systemAvailableMemoryText")
         if (total === undefined && free === undefined)
             return _dash
-        return qsTr("%1 (%2 free)").arg(total === undefined ? _dash : total).arg(free === undefined ? _dash : free)
+        return qsTranslate("HomePage", "%1 (%2 free)").arg(total === undefined ? _dash : total)
+                                                      .arg(free === undefined ? _dash : free)
     }
 
     function _rows() {
         return [
-            {key: "engine", label: qsTr("Engine"), value: qsTr("Orvanthis Core")},
-            {key: "threads", label: qsTr("Threads"), value: _threadsText()},
-            {key: "memory", label: qsTr("Memory"), value: _memoryText()}
+            {key: "engine", label: qsTranslate("HomePage", "Engine"), value: qsTranslate("HomePage", "Orvanthis Core")},
+            {key: "threads", label: qsTranslate("HomePage", "Threads"), value: _threadsText()},
+            {key: "memory", label: qsTranslate("HomePage", "Memory"), value: _memoryText()}
         ]
     }
 
@@ -50,7 +51,7 @@ Card {
             theme: card.theme
             type: card.type
             iconName: "monitor"
-            text: qsTr("System")
+            text: qsTranslate("HomePage", "System")
         }
 
         Repeater {

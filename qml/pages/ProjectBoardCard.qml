@@ -24,12 +24,13 @@ Card {
 
     function _memoryFigure(name) {
         const text = _controllerValue(name)
-        return text === undefined || text === null || String(text) === "" ? qsTr("—") : String(text)
+        return text === undefined || text === null || String(text) === ""
+                ? qsTranslate("ProjectPage", "—") : String(text)
     }
 
     function memoryText() {
-        return qsTr("Solve RAM: %1 required • %2 available").arg(_memoryFigure("solveRequiredMemoryText"))
-                                                             .arg(_memoryFigure("systemAvailableMemoryText"))
+        return qsTranslate("ProjectPage", "Solve RAM: %1 required • %2 available")
+            .arg(_memoryFigure("solveRequiredMemoryText")).arg(_memoryFigure("systemAvailableMemoryText"))
     }
 
     // Only two real figures can say that the solve does not fit.
@@ -56,7 +57,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Board")
+                text: qsTranslate("ProjectPage", "Board")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm
@@ -77,7 +78,7 @@ Card {
 
         Text {
             Layout.fillWidth: true
-            text: qsTr("Click a slot to choose its card.")
+            text: qsTranslate("ProjectPage", "Click a slot to choose its card.")
             color: card.theme.textFaint
             font.family: card.theme.fontFamily
             font.pixelSize: card.type.labelMd

@@ -21,16 +21,16 @@ RowLayout {
         objectName: "pageHeader"
         Layout.fillWidth: true
         theme: header.theme
-        title: qsTr("Project Setup")
-        subtitle: qsTr("Configure your game tree: board, ranges, and bet sizing.")
-        badge: header.boardReady ? qsTr("Ready") : qsTr("Setup Required")
+        title: qsTranslate("ProjectPage", "Project Setup")
+        subtitle: qsTranslate("ProjectPage", "Configure your game tree: board, ranges, and bet sizing.")
+        badge: header.boardReady ? qsTranslate("ProjectPage", "Ready") : qsTranslate("ProjectPage", "Setup Required")
         badgeColor: header.boardReady ? header.theme.success : header.theme.warn
     }
 
     SecondaryButton {
         objectName: "saveSettingsButton"
         theme: header.theme
-        text: qsTr("Save settings")
+        text: qsTranslate("ProjectPage", "Save settings")
         iconName: "save"
         onClicked: header.saveSettingsClicked()
     }
@@ -38,7 +38,7 @@ RowLayout {
     SecondaryButton {
         objectName: "loadSettingsButton"
         theme: header.theme
-        text: qsTr("Load settings")
+        text: qsTranslate("ProjectPage", "Load settings")
         iconName: "folder-open"
         onClicked: header.loadSettingsClicked()
     }
@@ -46,7 +46,7 @@ RowLayout {
     PrimaryButton {
         objectName: "continueButton"
         theme: header.theme
-        text: qsTr("Continue to Solve →")
+        text: qsTranslate("ProjectPage", "Continue to Solve →")
         enabled: header.canSolve
         onClicked: header.continueClicked()
     }

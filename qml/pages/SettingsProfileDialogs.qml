@@ -69,18 +69,18 @@ Item {
         theme: dialogs.theme
         type: dialogs.type
         modal: true
-        title: qsTr("Save Settings Profile")
+        title: qsTranslate("ProjectPage", "Save Settings Profile")
         footerButtons: [
             SecondaryButton {
                 objectName: "cancelSaveButton"
                 theme: dialogs.theme
-                text: qsTr("Cancel")
+                text: qsTranslate("ProjectPage", "Cancel")
                 onClicked: saveDialog.close()
             },
             PrimaryButton {
                 objectName: "saveProfileButton"
                 theme: dialogs.theme
-                text: qsTr("Save")
+                text: qsTranslate("ProjectPage", "Save")
                 enabled: nameField.text.trim() !== ""
                 onClicked: dialogs._save()
             }
@@ -96,7 +96,7 @@ Item {
             spacing: dialogs.theme.spaceSm
 
             Text {
-                text: qsTr("Profile name:")
+                text: qsTranslate("ProjectPage", "Profile name:")
                 color: dialogs.theme.textMuted
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.labelLg
@@ -109,7 +109,7 @@ Item {
                 theme: dialogs.theme
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.bodySm
-                placeholderText: qsTr("e.g., 100bb rake-free (fast)")
+                placeholderText: qsTranslate("ProjectPage", "e.g., 100bb rake-free (fast)")
                 // Return saves even while the button is disabled, so that an empty name gets its message.
                 onAccepted: dialogs._save()
             }
@@ -135,12 +135,12 @@ Item {
         theme: dialogs.theme
         type: dialogs.type
         modal: true
-        title: qsTr("Load Settings Profile")
+        title: qsTranslate("ProjectPage", "Load Settings Profile")
         footerButtons: [
             SecondaryButton {
                 objectName: "deleteProfileButton"
                 theme: dialogs.theme
-                text: qsTr("Delete")
+                text: qsTranslate("ProjectPage", "Delete")
                 danger: true
                 enabled: dialogs._hasSelection()
                 onClicked: dialogs._askDelete()
@@ -148,13 +148,13 @@ Item {
             SecondaryButton {
                 objectName: "cancelLoadButton"
                 theme: dialogs.theme
-                text: qsTr("Cancel")
+                text: qsTranslate("ProjectPage", "Cancel")
                 onClicked: loadDialog.close()
             },
             PrimaryButton {
                 objectName: "loadProfileButton"
                 theme: dialogs.theme
-                text: qsTr("Load")
+                text: qsTranslate("ProjectPage", "Load")
                 enabled: dialogs._hasSelection()
                 onClicked: dialogs._load()
             }
@@ -166,7 +166,7 @@ Item {
             spacing: dialogs.theme.spaceSm
 
             Text {
-                text: qsTr("Choose a saved profile:")
+                text: qsTranslate("ProjectPage", "Choose a saved profile:")
                 color: dialogs.theme.textMuted
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.labelLg
@@ -175,7 +175,7 @@ Item {
             Text {
                 objectName: "noProfilesText"
                 visible: profileList.count === 0
-                text: qsTr("No saved profiles yet.")
+                text: qsTranslate("ProjectPage", "No saved profiles yet.")
                 color: dialogs.theme.textFaint
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.bodySm
@@ -265,18 +265,18 @@ Item {
         theme: dialogs.theme
         type: dialogs.type
         modal: true
-        title: qsTr("Delete settings profile")
+        title: qsTranslate("ProjectPage", "Delete settings profile")
         footerButtons: [
             SecondaryButton {
                 objectName: "cancelDeleteButton"
                 theme: dialogs.theme
-                text: qsTr("Cancel")
+                text: qsTranslate("ProjectPage", "Cancel")
                 onClicked: deleteDialog.close()
             },
             SecondaryButton {
                 objectName: "confirmDeleteButton"
                 theme: dialogs.theme
-                text: qsTr("Delete")
+                text: qsTranslate("ProjectPage", "Delete")
                 danger: true
                 onClicked: dialogs._confirmDelete()
             }
@@ -289,7 +289,7 @@ Item {
 
             Text {
                 Layout.fillWidth: true
-                text: qsTr("Are you sure you want to delete this saved profile?")
+                text: qsTranslate("ProjectPage", "Are you sure you want to delete this saved profile?")
                 color: dialogs.theme.text
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.bodySm
@@ -299,7 +299,7 @@ Item {
             Text {
                 objectName: "deleteProfileName"
                 Layout.fillWidth: true
-                text: qsTr("“%1”").arg(dialogs.setupPage._deleteProfileName)
+                text: qsTranslate("ProjectPage", "“%1”").arg(dialogs.setupPage._deleteProfileName)
                 color: dialogs.theme.text
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.bodySm
@@ -309,7 +309,7 @@ Item {
 
             Text {
                 Layout.fillWidth: true
-                text: qsTr("This cannot be undone.")
+                text: qsTranslate("ProjectPage", "This cannot be undone.")
                 color: dialogs.theme.textMuted
                 font.family: dialogs.theme.fontFamily
                 font.pixelSize: dialogs.type.labelMd

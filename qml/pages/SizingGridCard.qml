@@ -17,11 +17,13 @@ Card {
     property int streetColumnWidth: 70
 
     readonly property var _streets: ["Flop", "Turn", "River"]
-    readonly property var _streetTitles: [qsTr("Flop"), qsTr("Turn"), qsTr("River")]
+    readonly property var _streetTitles: [qsTranslate("ProjectPage", "Flop"), qsTranslate("ProjectPage", "Turn"),
+        qsTranslate("ProjectPage", "River")]
     readonly property bool _isOop: player === "oop"
     // Only the out-of-position player can lead into the caller, so only OOP has the donk row.
-    readonly property var _rowLabels: [qsTr("Bet sizes (%)"), qsTr("Raise sizes (%)"), qsTr("Add All-In")]
-                                      .concat(_isOop ? [qsTr("Don't donk")] : [])
+    readonly property var _rowLabels: [qsTranslate("ProjectPage", "Bet sizes (%)"),
+        qsTranslate("ProjectPage", "Raise sizes (%)"), qsTranslate("ProjectPage", "Add All-In")]
+        .concat(_isOop ? [qsTranslate("ProjectPage", "Don't donk")] : [])
     readonly property var _textCells: _cells(["BetSizesText", "RaiseSizesText"], 1)
     readonly property var _switchCells: _cells(_isOop ? ["AddAllIn", "DontDonk"] : ["AddAllIn"], 3)
     readonly property string _jamEnabledKey: player + "AddAllInIfJamLtEnabled"
@@ -50,11 +52,12 @@ Card {
     }
 
     function _title() {
-        return _isOop ? qsTr("OOP Sizing") : qsTr("IP Sizing")
+        return _isOop ? qsTranslate("ProjectPage", "OOP Sizing") : qsTranslate("ProjectPage", "IP Sizing")
     }
 
     function _placeholder(key) {
-        return key.endsWith("BetSizesText") ? qsTr("33, 75, 125") : qsTr("75, 125, 200")
+        return key.endsWith("BetSizesText") ? qsTranslate("ProjectPage", "33, 75, 125")
+                                             : qsTranslate("ProjectPage", "75, 125, 200")
     }
 
     ColumnLayout {
@@ -180,7 +183,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Add all-in if jam less than")
+                text: qsTranslate("ProjectPage", "Add all-in if jam less than")
                 color: card.theme.textMuted
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.labelLg
@@ -203,12 +206,12 @@ Card {
                 maximum: card._jamMaxPct
                 fallback: 0.0
                 storesWhileTyping: true
-                placeholderText: qsTr("e.g. 30")
+                placeholderText: qsTranslate("ProjectPage", "e.g. 30")
                 onValueEdited: value => card.settingEdited(card._jamPctKey, value)
             }
 
             Text {
-                text: qsTr("% pot")
+                text: qsTranslate("ProjectPage", "% pot")
                 color: card.theme.textMuted
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.labelLg

@@ -39,7 +39,7 @@ ComboBox {
 
         x: box.width - width - box.theme.spaceMd
         anchors.verticalCenter: parent.verticalCenter
-        text: qsTr("▾")
+        text: qsTranslate("SolvePage", "▾")
         color: box.theme.textMuted
         font.pixelSize: box.type.bodyMd
     }

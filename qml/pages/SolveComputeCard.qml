@@ -12,7 +12,7 @@ Card {
 
     readonly property int _titleIconSize: 16
     // The solver always runs in 32-bit floats; the second entry is shown but changes nothing.
-    readonly property var _precisionChoices: [qsTr("Float32"), qsTr("Float64")]
+    readonly property var _precisionChoices: [qsTranslate("SolvePage", "Float32"), qsTranslate("SolvePage", "Float64")]
 
     ColumnLayout {
         anchors.left: parent.left
@@ -29,7 +29,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Compute")
+                text: qsTranslate("SolvePage", "Compute")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm
@@ -44,7 +44,7 @@ Card {
             rowSpacing: card.theme.spaceSm
 
             Text {
-                text: qsTr("Threads")
+                text: qsTranslate("SolvePage", "Threads")
                 color: card.theme.textMuted
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.bodySm
@@ -81,7 +81,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Precision")
+                text: qsTranslate("SolvePage", "Precision")
                 color: card.theme.textMuted
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.bodySm

@@ -17,34 +17,34 @@ Card {
 
     function _orDash(text) {
         const trimmed = String(text).trim()
-        return trimmed !== "" ? trimmed : qsTr("—")
+        return trimmed !== "" ? trimmed : qsTranslate("SolvePage", "—")
     }
 
     function flopText() {
-        return qsTr("Flop: OOP %1 | IP %2").arg(_orDash(solvePage.oopFlopBetSizesText))
+        return qsTranslate("SolvePage", "Flop: OOP %1 | IP %2").arg(_orDash(solvePage.oopFlopBetSizesText))
                                           .arg(_orDash(solvePage.ipFlopBetSizesText))
     }
 
     function targetText() {
-        return qsTr("Target: %1% (≈ %2)").arg(solvePage.targetExploitability)
+        return qsTranslate("SolvePage", "Target: %1% (≈ %2)").arg(solvePage.targetExploitability)
                                          .arg(solvePage._amountText(solvePage.targetExploitabilityAmount()))
     }
 
     function rakeText() {
-        return qsTr("Rake: %1% (cap %2)").arg(solvePage.rakePercent).arg(solvePage.rakeCap)
+        return qsTranslate("SolvePage", "Rake: %1% (cap %2)").arg(solvePage.rakePercent).arg(solvePage.rakeCap)
     }
 
     function _rangeOrFull(text) {
         const trimmed = String(text).trim()
-        return trimmed !== "" ? trimmed : qsTr("100%")
+        return trimmed !== "" ? trimmed : qsTranslate("SolvePage", "100%")
     }
 
     function oopRangeText() {
-        return qsTr("OOP: %1").arg(_rangeOrFull(solvePage.oopRangeText))
+        return qsTranslate("SolvePage", "OOP: %1").arg(_rangeOrFull(solvePage.oopRangeText))
     }
 
     function ipRangeText() {
-        return qsTr("IP: %1").arg(_rangeOrFull(solvePage.ipRangeText))
+        return qsTranslate("SolvePage", "IP: %1").arg(_rangeOrFull(solvePage.ipRangeText))
     }
 
     ColumnLayout {
@@ -64,7 +64,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Configuration")
+                text: qsTranslate("SolvePage", "Configuration")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm

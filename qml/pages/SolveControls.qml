@@ -18,8 +18,9 @@ Card {
             objectName: "startSolveButton"
             Layout.fillWidth: true
             theme: card.theme
-            text: card.solvePage.running ? qsTr("Solving...") : qsTr("Start Solve")
-            iconText: qsTr("▶")
+            text: card.solvePage.running ? qsTranslate("SolvePage", "Solving...")
+                                         : qsTranslate("SolvePage", "Start Solve")
+            iconText: qsTranslate("SolvePage", "▶")
             loading: card.solvePage.running
             enabled: !card.solvePage.running && card.solvePage.canSolve
             onClicked: card.solvePage.startSolve()
@@ -33,7 +34,7 @@ Card {
                 objectName: "cancelSolveButton"
                 Layout.fillWidth: true
                 theme: card.theme
-                text: qsTr("Cancel")
+                text: qsTranslate("SolvePage", "Cancel")
                 iconName: "stop"
                 danger: true
                 enabled: card.solvePage.running
@@ -44,7 +45,7 @@ Card {
                 objectName: "viewResultsButton"
                 Layout.fillWidth: true
                 theme: card.theme
-                text: qsTr("View Results →")
+                text: qsTranslate("SolvePage", "View Results →")
                 iconName: "trend-up"
                 enabled: card.solvePage.runComplete
                 onClicked: card.solvePage.goToResults()

@@ -20,7 +20,7 @@ Card {
     }
 
     function speedUnit() {
-        return solvePage.iterationsPerSec > 0 ? qsTr("it/s") : ""
+        return solvePage.iterationsPerSec > 0 ? qsTranslate("SolvePage", "it/s") : ""
     }
 
     ColumnLayout {
@@ -38,7 +38,7 @@ Card {
             }
 
             Text {
-                text: qsTr("Progress")
+                text: qsTranslate("SolvePage", "Progress")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm
@@ -133,7 +133,7 @@ Card {
                 Layout.fillWidth: true
                 theme: card.theme
                 compact: true
-                label: qsTr("Elapsed")
+                label: qsTranslate("SolvePage", "Elapsed")
                 value: card.solvePage.elapsedTime
             }
 
@@ -142,7 +142,7 @@ Card {
                 Layout.fillWidth: true
                 theme: card.theme
                 compact: true
-                label: qsTr("Remaining")
+                label: qsTranslate("SolvePage", "Remaining")
                 value: card.solvePage.estimatedRemaining
             }
 
@@ -151,7 +151,7 @@ Card {
                 Layout.fillWidth: true
                 theme: card.theme
                 compact: true
-                label: qsTr("Speed")
+                label: qsTranslate("SolvePage", "Speed")
                 value: card.solvePage._speedText()
                 unit: card.speedUnit()
             }
@@ -161,7 +161,7 @@ Card {
                 Layout.fillWidth: true
                 theme: card.theme
                 compact: true
-                label: qsTr("Exploitability")
+                label: qsTranslate("SolvePage", "Exploitability")
                 value: card.solvePage._exploitabilityTileText()
                 accentColor: card.theme.gold
             }

@@ -49,7 +49,7 @@ Card {
 
             Text {
                 Layout.fillWidth: true
-                text: qsTr("Recent Runs")
+                text: qsTranslate("SolvePage", "Recent Runs")
                 color: card.theme.text
                 font.family: card.theme.fontFamily
                 font.pixelSize: card.type.headingSm
@@ -59,7 +59,7 @@ Card {
             SecondaryButton {
                 objectName: "clearRunsButton"
                 theme: card.theme
-                text: qsTr("Clear")
+                text: qsTranslate("SolvePage", "Clear")
                 enabled: card.rowCount > 0
                 onClicked: card.solvePage.clearRuns()
             }
@@ -69,7 +69,7 @@ Card {
             objectName: "noRunsText"
             Layout.fillWidth: true
             visible: card.rowCount === 0
-            text: qsTr("No runs yet — click Start Solve to record a run here.")
+            text: qsTranslate("SolvePage", "No runs yet — click Start Solve to record a run here.")
             color: card.theme.textMuted
             font.family: card.theme.fontFamily
             font.pixelSize: card.type.bodySm
