@@ -136,6 +136,8 @@ class AppController : public QObject {
     void publishResult(const SolveResult& result);
     void clearResultData();
     void clearNodeCaches();
+    // The live solution is about to change, or has: every cache entry must be computed anew.
+    void markNodeCachesStale();
     void setRunning(bool running);
     void setProgress(double progress);
     void setStatusText(const QString& text);
@@ -166,6 +168,16 @@ class AppController : public QObject {
     mutable QHash<qint32, QVariantList> m_handBucketsByNode;
     mutable QHash<qint32, QVariantList> m_oopSeatHandCombosByNode;
     mutable QHash<qint32, QVariantList> m_ipSeatHandCombosByNode;
+    // Bits, by node, of the cache entries computed from the live solution: those answer without a walk.
+    enum FreshCache : quint8 {
+        kFreshHandStrategy = 1,
+        kFreshActionStats = 2,
+        kFreshHandCombos = 4,
+        kFreshHandBuckets = 8,
+        kFreshOopSeatHandCombos = 16,
+        kFreshIpSeatHandCombos = 32,
+    };
+    mutable QHash<qint32, quint8> m_freshNodeCaches;
 
     SolveSession m_session;
     std::shared_ptr<ControllerMailbox> m_mailbox;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <optional>
 #include <string_view>
 
 #include "app/app_controller.h"
@@ -40,11 +41,19 @@ kelvane::Seat seatFromText(const QString& player) {
     return player.trimmed().toUpper() == QLatin1String("IP") ? kelvane::kSeatIp : kelvane::kSeatOop;
 }
 
-// A live answer replaces the node's cache entry, which serves only when no live answer can be had.
-template <typename Value>
-Value remember(QHash<qint32, Value>& cache, qint32 node, const Value& answer) {
-    cache.insert(node, answer);
-    return answer;
+// An entry computed from the live solution answers as it stands, since that solution hasn't changed.
+// Otherwise a live answer replaces the entry and is marked fresh; without one (no live solution, or a
+// node the query can't answer) the entry serves as it stands, as it does for a loaded project.
+template <typename Value, typename LiveQuery>
+Value cachedOrLive(QHash<qint32, Value>& cache, QHash<qint32, quint8>& fresh, quint8 freshBit, qint32 node,
+                   LiveQuery liveQuery) {
+    const auto entry = cache.constFind(node);
+    if (entry != cache.cend() && (fresh.value(node) & freshBit)) return *entry;
+    const std::optional<Value> answer = liveQuery();
+    if (!answer) return entry != cache.cend() ? *entry : Value();
+    cache.insert(node, *answer);
+    fresh[node] |= freshBit;
+    return *answer;
 }
 
 QVariantList toActionStats(const NodeActionStats& stats) {
@@ -227,39 +236,59 @@ QVariantList AppController::nodeLocks(int nodeIndex) const {
 
 QVariantList AppController::nodeActionStats(int nodeIndex) const {
     if (nodeIndex < 0) return {};
-    const NodeActionStats stats = action_stats(m_session, static_cast<std::uint64_t>(nodeIndex));
-    if (!stats.valid) return m_actionStatsByNode.value(nodeIndex);
-    return remember(m_actionStatsByNode, nodeIndex, toActionStats(stats));
+    return cachedOrLive(m_actionStatsByNode, m_freshNodeCaches, kFreshActionStats, nodeIndex,
+                        [&]() -> std::optional<QVariantList> {
+                            const NodeActionStats stats =
+                                action_stats(m_session, static_cast<std::uint64_t>(nodeIndex));
+                            if (!stats.valid) return std::nullopt;
+                            return toActionStats(stats);
+                        });
 }
 
 QVariantList AppController::nodeHandCombos(int nodeIndex) const {
     if (nodeIndex < 0) return {};
-    const HandCombos combos = hand_combos(m_session, static_cast<std::uint64_t>(nodeIndex));
-    if (!combos.valid) return m_handCombosByNode.value(nodeIndex);
-    return remember(m_handCombosByNode, nodeIndex, toHandCombos(combos));
+    return cachedOrLive(m_handCombosByNode, m_freshNodeCaches, kFreshHandCombos, nodeIndex,
+                        [&]() -> std::optional<QVariantList> {
+                            const HandCombos combos = hand_combos(m_session, static_cast<std::uint64_t>(nodeIndex));
+                            if (!combos.valid) return std::nullopt;
+                            return toHandCombos(combos);
+                        });
 }
 
 QVariantList AppController::nodeSeatHandCombos(int nodeIndex, QString player) const {
     if (nodeIndex < 0) return {};
     const kelvane::Seat seat = seatFromText(player);
-    auto& cache = seat == kelvane::kSeatIp ? m_ipSeatHandCombosByNode : m_oopSeatHandCombosByNode;
-    const HandCombos combos = seat_hand_combos(m_session, static_cast<std::uint64_t>(nodeIndex), seat);
-    if (!combos.valid) return cache.value(nodeIndex);
-    return remember(cache, nodeIndex, toSeatHandCombos(combos));
+    const bool ip = seat == kelvane::kSeatIp;
+    return cachedOrLive(ip ? m_ipSeatHandCombosByNode : m_oopSeatHandCombosByNode, m_freshNodeCaches,
+                        ip ? kFreshIpSeatHandCombos : kFreshOopSeatHandCombos, nodeIndex,
+                        [&]() -> std::optional<QVariantList> {
+                            const HandCombos combos =
+                                seat_hand_combos(m_session, static_cast<std::uint64_t>(nodeIndex), seat);
+                            if (!combos.valid) return std::nullopt;
+                            return toSeatHandCombos(combos);
+                        });
 }
 
 QVariantList AppController::nodeHandBuckets(int nodeIndex) const {
     if (nodeIndex < 0) return {};
-    const HandBuckets buckets = hand_buckets(m_session, static_cast<std::uint64_t>(nodeIndex));
-    if (!buckets.valid) return withDisplayNames(m_handBucketsByNode.value(nodeIndex));
-    return withDisplayNames(remember(m_handBucketsByNode, nodeIndex, toHandBuckets(buckets)));
+    return withDisplayNames(cachedOrLive(m_handBucketsByNode, m_freshNodeCaches, kFreshHandBuckets, nodeIndex,
+                                         [&]() -> std::optional<QVariantList> {
+                                             const HandBuckets buckets =
+                                                 hand_buckets(m_session, static_cast<std::uint64_t>(nodeIndex));
+                                             if (!buckets.valid) return std::nullopt;
+                                             return toHandBuckets(buckets);
+                                         }));
 }
 
 QVariantMap AppController::nodeHandStrategy(int nodeIndex) const {
     if (nodeIndex < 0) return {};
-    const HandStrategy strategy = hand_strategy(m_session, static_cast<std::uint64_t>(nodeIndex));
-    if (!strategy.valid) return m_handStrategyByNode.value(nodeIndex);
-    return remember(m_handStrategyByNode, nodeIndex, toHandStrategy(strategy, nodeActions(nodeIndex)));
+    return cachedOrLive(m_handStrategyByNode, m_freshNodeCaches, kFreshHandStrategy, nodeIndex,
+                        [&]() -> std::optional<QVariantMap> {
+                            const HandStrategy strategy =
+                                hand_strategy(m_session, static_cast<std::uint64_t>(nodeIndex));
+                            if (!strategy.valid) return std::nullopt;
+                            return toHandStrategy(strategy, nodeActions(nodeIndex));
+                        });
 }
 
 QVariantList AppController::nodePocketActionEvs(int nodeIndex, QString player, QString c1, QString c2) const {

@@ -112,6 +112,9 @@ void AppController::startSolveWithConfig(QVariantMap cfg) {
     }
 
     setRunning(true);
+    // The session drops the live solution now, and the next one may be published before its result
+    // reaches this thread.
+    markNodeCachesStale();
     // `this` only rides along to the calls that the mailbox delivers while the controller lives.
     const auto onProgress = [mailbox = m_mailbox, this](const SolveProgress& message) {
         mailbox->post([this, message] { handleSolveProgress(message); });
@@ -157,6 +160,7 @@ void AppController::clearResults() {
 }
 
 void AppController::clearNodeCaches() {
+    markNodeCachesStale();
     m_handStrategyByNode.clear();
     m_actionStatsByNode.clear();
     m_handCombosByNode.clear();
@@ -164,6 +168,8 @@ void AppController::clearNodeCaches() {
     m_oopSeatHandCombosByNode.clear();
     m_ipSeatHandCombosByNode.clear();
 }
+
+void AppController::markNodeCachesStale() { m_freshNodeCaches.clear(); }
 
 void AppController::clearResultData() {
     m_rootActions.clear();

@@ -51,11 +51,9 @@ NodeActionStats action_stats(const SolveSession& session, std::uint64_t node) {
     const std::span<const float> other = game.root_weights(opponent);
     if (other.size() != game.hand_count(opponent)) return {};
 
-    std::vector<std::vector<float>> values(actions);
-    for (std::size_t a = 0; a < actions; ++a) {
-        values[a] = solver.node_values(game, n.children[a], seat);
-        if (values[a].size() != hands) return {};
-    }
+    // Against the opponent's root weights, not his reach along the path.
+    const std::vector<float> values = solver.node_and_child_values_with_reach(game, node, seat, other).children;
+    if (values.size() != actions * hands) return {};
 
     const std::span<const float> weights = game.root_weights(seat);
     const std::vector<double> mass = unblocked_mass(game, seat, other);
@@ -75,7 +73,7 @@ NodeActionStats action_stats(const SolveSession& session, std::uint64_t node) {
             if (!(weights[h] > 0.0f) || !(p > 0.0f)) continue;
             const double t = static_cast<double>(weights[h]) * p;
             combos += t;
-            double e = values[a][h];
+            double e = values[a * hands + h];
             if (total_matchups > 0.0 && mass[h] > 0.0) e *= total_matchups / mass[h];
             if (std::isfinite(e)) sum += t * e;
         }

@@ -28,19 +28,16 @@ std::optional<std::vector<float>> decision_strategy(const SolutionView& solution
     return strategy;
 }
 
-// Value walks from the node (entry 0) and from each child (entries 1 to A); nothing if any has a
-// length other than the seat's hand count.
-std::optional<std::vector<std::vector<float>>> node_and_child_values(const SolutionView& solution, std::uint64_t node,
-                                                                     kelvane::Seat seat,
-                                                                     const std::vector<float>& other_reach) {
+// Values of the node and of each child; nothing if they don't cover the seat's hands.
+std::optional<kelvane::NodeAndChildValues> node_and_child_values(const SolutionView& solution, std::uint64_t node,
+                                                                 kelvane::Seat seat,
+                                                                 const std::vector<float>& other_reach) {
     const Game& game = *solution.game;
-    const kelvane::GameNode& n = game.node(node);
-    std::vector<std::vector<float>> values;
-    values.push_back(solution.solver->node_values_with_reach(game, node, seat, other_reach));
-    for (std::size_t a = 0; a < n.actions.size(); ++a)
-        values.push_back(solution.solver->node_values_with_reach(game, n.children[a], seat, other_reach));
-    for (const std::vector<float>& v : values)
-        if (v.size() != game.hand_count(seat)) return std::nullopt;
+    const std::size_t hands = game.hand_count(seat);
+    kelvane::NodeAndChildValues values =
+        solution.solver->node_and_child_values_with_reach(game, node, seat, other_reach);
+    if (values.node.size() != hands || values.children.size() != game.node(node).actions.size() * hands)
+        return std::nullopt;
     return values;
 }
 
@@ -103,9 +100,9 @@ HandCombos hand_combos(const SolveSession& session, std::uint64_t node) {
         combo.c1 = card_text(pockets[h].first);
         combo.c2 = card_text(pockets[h].second);
         combo.weight = reach_weight(own_reach[h], weights[h]);
-        combo.ev = chip_value((*values)[0][h], mass[h], half, total_matchups);
+        combo.ev = chip_value(values->node[h], mass[h], half, total_matchups);
         for (std::size_t a = 0; a < actions; ++a)
-            combo.action_evs.push_back(chip_value((*values)[a + 1][h], mass[h], half, total_matchups));
+            combo.action_evs.push_back(chip_value(values->children[a * hands + h], mass[h], half, total_matchups));
         combo.action_probs = probability_row(*strategy, h, hands, actions);
         combo.buckets = classify_hand(game.cards(), n.turn_card, n.river_card, pockets[h]);
         answer.combos.push_back(std::move(combo));

@@ -1,6 +1,8 @@
 // The read-only walks: values under the average strategy, best-response values, and the measures on them.
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
 
 #include "solver/chance_sum.h"
 #include "solver/discounted_cfr.h"
@@ -24,6 +26,14 @@ void expected_values(std::span<float> out, const float* values, const float* p, 
         }
         out[h] = static_cast<float>(total);
     }
+}
+
+// Sibling subtrees share states only where a child index repeats; then they must not be walked at once.
+bool distinct(std::span<const std::uint64_t> children) {
+    for (std::size_t a = 0; a < children.size(); ++a)
+        for (std::size_t b = a + 1; b < children.size(); ++b)
+            if (children[a] == children[b]) return false;
+    return true;
 }
 
 float best_of(const float* values, std::size_t actions, std::size_t hands, std::size_t h) {
@@ -266,6 +276,50 @@ std::vector<float> DiscountedCfr::node_values_with_reach(const Game& game, std::
     ScratchStack walk_scratch;
     compute_cfvalue_recursive(game, node, seat, reach, values, false, 0, walk_scratch);
     return values;
+}
+
+NodeAndChildValues DiscountedCfr::node_and_child_values_with_reach(const Game& game, std::uint64_t node,
+                                                                   std::uint8_t seat, std::span<const float> reach) {
+    const std::size_t hands = game.hand_count(seat);
+    if (hands == 0 || node >= game.node_count() || node >= states.size()) return {};
+    const GameNode& n = game.node(node);
+    const std::size_t actions = n.actions.size();
+    if (n.children.size() < actions) return {};
+    NodeAndChildValues values{std::vector<float>(hands, 0.0f), std::vector<float>(actions * hands, 0.0f)};
+    walk_children(game, std::span(n.children).first(actions), seat, reach, values.children);
+
+    // The same guards and the same sum as the walk at a node of the seat to act.
+    NodeState& state = states[node];
+    if (n.kind != kNodeDecision || actions == 0 || state.seat != seat || state.num_hands != hands) {
+        values.node = node_values_with_reach(game, node, seat, reach);
+        return values;
+    }
+    std::vector<float> p(actions * hands);
+    std::vector<float> denom(hands);
+    regret_match(strategy_sum_of(state), p, denom, actions, hands);
+    expected_values(values.node, values.children.data(), p.data(), actions);
+    return values;
+}
+
+// Each thread takes the next child as it finishes one, since sibling subtrees differ widely in size; a
+// chance node below still fans out to the pool. Each thread keeps its own scratch.
+void DiscountedCfr::walk_children(const Game& game, std::span<const std::uint64_t> children, std::uint8_t seat,
+                                  std::span<const float> reach, std::span<float> out) {
+    const std::size_t hands = children.empty() ? 0 : out.size() / children.size();
+    std::atomic<std::size_t> next{0};
+    const auto walk = [&] {
+        ScratchStack walk_scratch;
+        for (std::size_t a = next++; a < children.size(); a = next++)
+            compute_cfvalue_recursive(game, children[a], seat, reach, out.subspan(a * hands, hands), false, 0,
+                                      walk_scratch);
+    };
+    const std::size_t walkers = distinct(children) ? std::min<std::size_t>(
+                                                         std::max(1u, std::thread::hardware_concurrency()),
+                                                         children.size())
+                                                   : 1;
+    std::vector<std::jthread> helpers;
+    for (std::size_t i = 1; i < walkers; ++i) helpers.emplace_back(walk);
+    walk();
 }
 
 }  // namespace kelvane

@@ -29,6 +29,13 @@ struct DiscountedCfrOptions {
 // A root measure, one value for each seat.
 using SeatValues = std::array<float, 2>;
 
+// A seat's values at a node and at each of its children under the average strategies; `children` is
+// action-major, one row of the seat's hands for each action. Both empty when the node can't be walked.
+struct NodeAndChildValues {
+    std::vector<float> node;
+    std::vector<float> children;
+};
+
 class DiscountedCfr {
 public:
     explicit DiscountedCfr(const DiscountedCfrOptions& options);
@@ -60,6 +67,10 @@ public:
     std::vector<float> node_values(const Game& game, std::uint64_t node, std::uint8_t seat);
     std::vector<float> node_values_with_reach(const Game& game, std::uint64_t node, std::uint8_t seat,
                                               std::span<const float> reach);
+    // The children are walked side by side, and the node's values follow from theirs exactly as a walk
+    // of the node would give them, so the node costs no walk of its own.
+    NodeAndChildValues node_and_child_values_with_reach(const Game& game, std::uint64_t node, std::uint8_t seat,
+                                                        std::span<const float> reach);
     // Mean over the seats of what a best response gains over the average strategy, in chips.
     float measure_exploitability(const Game& game);
 
@@ -110,6 +121,8 @@ private:
     void solve_own(const Game& game, std::uint64_t node, std::uint8_t seat, std::span<const float> opponent_reach,
                    std::span<float> out, std::int32_t first_action, std::uint64_t depth, ScratchStack& scratch);
     SeatValues root_values(const Game& game, ValueWalk walk);
+    void walk_children(const Game& game, std::span<const std::uint64_t> children, std::uint8_t seat,
+                       std::span<const float> reach, std::span<float> out);
 
     DiscountedCfrOptions options;
     float exploitability = 0.0f;

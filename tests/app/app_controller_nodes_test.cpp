@@ -5,8 +5,10 @@
 #include <QTranslator>
 #include <QXmlStreamReader>
 #include <QtTest>
+#include <chrono>
 #include <cmath>
 #include <memory>
+#include <thread>
 
 #include "controller_test_support.h"
 #include "session/hand_categories.h"
@@ -88,6 +90,63 @@ QStringList sourcesInContext(const QString& cataloguePath, const QString& contex
         else if (xml.name() == QLatin1String("source") && currentContext == context) sources.append(xml.readElementText());
     }
     return sources;
+}
+
+// One read of each cached query at a node, kept to tell a cached answer from a recomputed one.
+struct NodeReads {
+    QVariantList stats;
+    QVariantList combos;
+    QVariantList oop;
+    QVariantList ip;
+    QVariantList buckets;
+    QVariantMap strategy;
+};
+
+NodeReads readNode(const AppController& c, int node) {
+    return {c.nodeActionStats(node),      c.nodeHandCombos(node),  c.nodeSeatHandCombos(node, "OOP"),
+            c.nodeSeatHandCombos(node, "IP"), c.nodeHandBuckets(node), c.nodeHandStrategy(node)};
+}
+
+// The bucket list gets its display names anew at each read, so its rows' probability lists tell.
+QVariantList firstBucketProbs(const QVariantList& buckets) {
+    return buckets.isEmpty() ? QVariantList() : buckets[0].toMap().value("actionProbs").toList();
+}
+
+// Whether every answer of `later` is the very data of `earlier`, not merely equal to it.
+bool sharesAll(const NodeReads& earlier, const NodeReads& later) {
+    return later.stats.isSharedWith(earlier.stats) && later.combos.isSharedWith(earlier.combos) &&
+           later.oop.isSharedWith(earlier.oop) && later.ip.isSharedWith(earlier.ip) &&
+           firstBucketProbs(later.buckets).isSharedWith(firstBucketProbs(earlier.buckets)) &&
+           later.strategy.isSharedWith(earlier.strategy);
+}
+
+// Whether no answer of `later` is the data of `earlier`: each was computed anew.
+bool sharesNone(const NodeReads& earlier, const NodeReads& later) {
+    return !later.stats.isSharedWith(earlier.stats) && !later.combos.isSharedWith(earlier.combos) &&
+           !later.oop.isSharedWith(earlier.oop) && !later.ip.isSharedWith(earlier.ip) &&
+           !firstBucketProbs(later.buckets).isSharedWith(firstBucketProbs(earlier.buckets)) &&
+           !later.strategy.isSharedWith(earlier.strategy);
+}
+
+bool allAnswered(const NodeReads& reads) {
+    return !reads.stats.isEmpty() && !reads.combos.isEmpty() && !reads.oop.isEmpty() && !reads.ip.isEmpty() &&
+           !firstBucketProbs(reads.buckets).isEmpty() && !reads.strategy.isEmpty();
+}
+
+bool equalAnswers(const NodeReads& a, const NodeReads& b) {
+    return a.stats == b.stats && a.combos == b.combos && a.oop == b.oop && a.ip == b.ip &&
+           a.buckets == b.buckets && a.strategy == b.strategy;
+}
+
+// Polls without delivering the controller's queued messages, until `ready` holds or time runs out.
+template <typename Ready>
+bool waitWithoutEvents(Ready ready) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(kelvane_test::kSolveTimeoutMs);
+    while (!ready()) {
+        if (std::chrono::steady_clock::now() > deadline) return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return true;
 }
 
 }  // namespace
@@ -185,7 +244,7 @@ class AppControllerNodesTest : public QObject {
             QVERIFY(std::abs(sum(combo.value("actionProbs").toList()) - 1.0) < 1e-4);
             QVERIFY(!combo.value("buckets").toList().isEmpty());
         }
-        // A second read recomputes to the same answer.
+        // A second read answers from the cache, equal to the first.
         QCOMPARE(c.nodeHandCombos(0), combos);
 
         const QVariantList oop = c.nodeSeatHandCombos(0, "oop");
@@ -339,6 +398,90 @@ class AppControllerNodesTest : public QObject {
         QVERIFY(c.nodeHandStrategy(0).isEmpty());
         QVERIFY(c.nodeSeatHandCombos(0, "OOP").isEmpty());
         QVERIFY(c.nodePocketActionEvs(riverNode, "IP", c1, c2).isEmpty());
+    }
+
+    void liveAnswersServeFromTheCache() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads first = readNode(c, riverNode);
+        QVERIFY(allAnswered(first));
+        const NodeReads second = readNode(c, riverNode);
+        QVERIFY(equalAnswers(first, second));
+        QVERIFY(sharesAll(first, second));
+        // A node the decision queries can't answer leaves nothing to serve.
+        QVERIFY(c.nodeHandCombos(terminalNode).isEmpty());
+        QVERIFY(c.nodeHandCombos(terminalNode).isEmpty());
+    }
+
+    void newResultRecomputes() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads before = readNode(c, riverNode);
+        QVERIFY(allAnswered(before));
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads after = readNode(c, riverNode);
+        QVERIFY(allAnswered(after));
+        QVERIFY(sharesNone(before, after));
+        QVERIFY(sharesAll(after, readNode(c, riverNode)));
+    }
+
+    // The next solution is live before its result reaches the controller; old entries must not answer then.
+    void startMakesEntriesStale() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads before = readNode(c, riverNode);
+        QVERIFY(allAnswered(before));
+        c.startSolveWithConfig(riverSpot(10));
+        QVERIFY(c.running());
+        // Seat combos of a node never read answer only from a live solution.
+        QVERIFY(waitWithoutEvents([&] { return !c.nodeSeatHandCombos(terminalNode, "OOP").isEmpty(); }));
+        const NodeReads during = readNode(c, riverNode);
+        QVERIFY(allAnswered(during));
+        QVERIFY(sharesNone(before, during));
+        QVERIFY(waitForIdle(c));
+        QCOMPARE(c.statusText(), QStringLiteral("Done"));
+    }
+
+    void clearResultsMakesEntriesStale() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads before = readNode(c, riverNode);
+        QVERIFY(allAnswered(before));
+        c.clearResults();
+        QVERIFY(c.nodeHandCombos(riverNode).isEmpty());
+        QVERIFY(solve(c, riverSpot(20)));
+        QVERIFY(sharesNone(before, readNode(c, riverNode)));
+    }
+
+    void cancelledRunMakesEntriesStale() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        const NodeReads before = readNode(c, riverNode);
+        QVariantMap longRun = riverSpot(200000);
+        longRun.insert("target_exploitability", 0.0);
+        c.startSolveWithConfig(longRun);
+        c.cancelSolve();
+        QVERIFY(waitForIdle(c));
+        QCOMPARE(c.statusText(), QStringLiteral("Cancelled"));
+        QVERIFY(c.nodeHandCombos(riverNode).isEmpty());
+        QVERIFY(solve(c, riverSpot(20)));
+        QVERIFY(sharesNone(before, readNode(c, riverNode)));
+    }
+
+    void projectKeepsWhatWasServedFromTheCache() {
+        AppController c;
+        QVERIFY(solve(c, riverSpot(20)));
+        readNode(c, riverNode);
+        const NodeReads served = readNode(c, riverNode);
+        const NodeReads root = readNode(c, 0);
+        const QTemporaryDir dir;
+        const QUrl file = QUrl::fromLocalFile(dir.filePath("cached.kelvaneproj"));
+        QVERIFY(c.saveProject(file, QVariantMap{{"board", "Ks9d4c7h2s"}}));
+
+        AppController loaded;
+        QVERIFY(loaded.loadProject(file).value("ok").toBool());
+        QVERIFY(equalAnswers(readNode(loaded, riverNode), served));
+        QVERIFY(equalAnswers(readNode(loaded, 0), root));
     }
 
     void reSolveWithLocksFollowsThem() {
