@@ -32,6 +32,8 @@ Item {
     readonly property real _labelScale: 1.25
     readonly property real _labelPointSize: (cellSize > _smallLabelMaxCell ? _largeLabelPoints : _smallLabelPoints)
                                             * _labelScale
+    // One colour per action key, worked out once for all 169 cells.
+    readonly property var _keyColors: _colorsOfKeys(actionTypes)
     property int _hoveredIndex: -1
     property bool _dragging: false
     property bool _dragDesiredOn: false
@@ -86,6 +88,13 @@ Item {
         return probs && probs.length === actionTypes.length ? probs : null
     }
 
+    function _colorsOfKeys(keys) {
+        const colors = []
+        for (let i = 0; keys && i < keys.length; ++i)
+            colors.push(_theme.actionColor(keys[i]))
+        return colors
+    }
+
     function _segments(hand) {
         const probs = _mixedProbs(hand)
         if (!probs)
@@ -95,7 +104,7 @@ Item {
         for (let i = 0; i < probs.length; ++i) {
             const p = Number(probs[i])
             const size = i === probs.length - 1 ? Math.max(0, 1 - start) : Math.max(0, Math.min(1, p))
-            segments.push({start: start, size: size, color: _theme.actionColor(actionTypes[i])})
+            segments.push({start: start, size: size, color: _keyColors[i]})
             if (p >= 0)
                 start += p
         }

@@ -24,14 +24,16 @@ ResultsPanel {
         Layout.fillHeight: true
         clip: true
         spacing: panel.theme.spaceXs
-        model: panel.page.currentBuckets
+        // Counted rather than given the list, so that the next node's buckets reuse these rows.
+        model: panel.page.currentBuckets.length
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
 
         delegate: Rectangle {
             id: row
 
-            required property var modelData
+            required property int index
+            readonly property var modelData: panel.page.currentBuckets[index]
             readonly property bool _selected: panel.page.selectedBucket === modelData.name
 
             objectName: "bucket_" + modelData.name

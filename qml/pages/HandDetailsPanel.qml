@@ -72,18 +72,19 @@ ResultsPanel {
         Layout.fillHeight: true
         clip: true
         spacing: panel.theme.spaceXs
-        model: panel.page.visibleHandCombos
+        // Counted rather than given the list, so that a node with as many combos reuses the rows it has.
+        model: panel.page.visibleHandCombos.length
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
 
         delegate: HandComboRow {
-            required property var modelData
+            required property int index
 
             width: list.width
             page: panel.page
             theme: panel.theme
             type: panel.type
-            combo: modelData
+            combo: panel.page.visibleHandCombos[index]
         }
     }
 }
