@@ -26,6 +26,7 @@ ResultsPanel {
         spacing: panel.theme.spaceXs
         // Counted rather than given the list, so that the next node's buckets reuse these rows.
         model: panel.page.currentBuckets.length
+        reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
 

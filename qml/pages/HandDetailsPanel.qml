@@ -74,6 +74,7 @@ ResultsPanel {
         spacing: panel.theme.spaceXs
         // Counted rather than given the list, so that a node with as many combos reuses the rows it has.
         model: panel.page.visibleHandCombos.length
+        reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
 

@@ -415,6 +415,15 @@ Item {
         }
     }
 
+    // The size-rank colours of bets and raises differ between the two palettes.
+    Connections {
+        target: page.theme
+
+        function onDarkChanged() {
+            page.refreshHandMatrix()
+        }
+    }
+
     SplitView {
         anchors.fill: parent
         orientation: Qt.Horizontal

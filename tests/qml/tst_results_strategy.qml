@@ -101,6 +101,13 @@ TestCase {
         compare(list[1].color, undefined, "the input is copied, not changed")
     }
 
+    function test_themeChangeRecolours() {
+        const page = makePage()
+        compare(page.currentActions[2].color, "#818CF8")
+        page.theme.dark = false
+        compare(page.currentActions[2].color, "#4F46E5", "the light palette takes over at once")
+    }
+
     function test_colorizeWrapsAfterFiveSizes() {
         const page = makePage()
         const list = []
