@@ -22,51 +22,40 @@ RowLayout {
     Rectangle {
         objectName: "nodeFacts"
         Layout.fillWidth: true
-        implicitHeight: factsGrid.implicitHeight + 2 * facts.theme.spaceMd
+        implicitHeight: factsColumn.implicitHeight + 2 * facts.theme.spaceMd
         color: facts.theme.surface
         radius: facts.theme.radiusMd
         border.color: facts.theme.stroke
 
-        GridLayout {
-            id: factsGrid
+        ColumnLayout {
+            id: factsColumn
 
             anchors.fill: parent
             anchors.margins: facts.theme.spaceMd
-            columns: 2
-            rowSpacing: facts.theme.spaceXs
-            columnSpacing: facts.theme.spaceMd
+            spacing: facts.theme.spaceXs
 
-            Repeater {
-                model: [
-                    {label: qsTranslate("ResultsPage", "Pot"), value: facts.page._potSize(), name: "pot"},
-                    {label: qsTranslate("ResultsPage", "Stack (%1)").arg(facts.page.selectedPlayer),
-                     value: facts.page._stackRemaining(), name: "stack"},
-                    {label: qsTranslate("ResultsPage", "To call"), value: facts.page._toCallAmount(), name: "toCall"}
-                ]
+            NodeFactRow {
+                theme: facts.theme
+                type: facts.type
+                name: "pot"
+                label: qsTranslate("ResultsPage", "Pot")
+                value: facts._amount(facts.page._potSize())
+            }
 
-                RowLayout {
-                    required property var modelData
+            NodeFactRow {
+                theme: facts.theme
+                type: facts.type
+                name: "stack"
+                label: qsTranslate("ResultsPage", "Stack (%1)").arg(facts.page.selectedPlayer)
+                value: facts._amount(facts.page._stackRemaining())
+            }
 
-                    Layout.columnSpan: 2
-                    Layout.fillWidth: true
-
-                    ResultsText {
-                        Layout.fillWidth: true
-                        theme: facts.theme
-                        type: facts.type
-                        text: parent.modelData.label
-                        color: facts.theme.textMuted
-                    }
-
-                    ResultsText {
-                        objectName: "fact_" + parent.modelData.name
-                        theme: facts.theme
-                        type: facts.type
-                        text: facts._amount(parent.modelData.value)
-                        font.family: facts.theme.fontMono
-                        font.weight: facts.type.weightSemibold
-                    }
-                }
+            NodeFactRow {
+                theme: facts.theme
+                type: facts.type
+                name: "toCall"
+                label: qsTranslate("ResultsPage", "To call")
+                value: facts._amount(facts.page._toCallAmount())
             }
         }
     }

@@ -16,7 +16,7 @@ TestCase {
     readonly property int solveTimeoutMs: 180000
     // A small river spot: both ranges narrow, one bet and one raise size, so that it runs in seconds.
     readonly property var riverSpot: ({
-        boardText: "QsJh2h7c3d", startingStreet: "river", maxIterations: 3000, targetExploitability: 0,
+        boardText: "QsJh2h7c3d", startingStreet: "river", maxIterations: 12000, targetExploitability: 0,
         oopRangeText: "AA,KK,QQ,AK,AQ,KQ,JT,T9", ipRangeText: "JJ,TT,99,AJ,KJ,QJ,98,87",
         oopFlopBetSizesText: "50", oopTurnBetSizesText: "50", oopRiverBetSizesText: "50",
         oopFlopRaiseSizesText: "100", oopTurnRaiseSizesText: "100", oopRiverRaiseSizesText: "100",
