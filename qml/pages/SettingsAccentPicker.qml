@@ -10,14 +10,7 @@ RowLayout {
     property var type: null
 
     // The offered accents; their names are shown as they are, like the hex values beside them.
-    readonly property var swatches: [
-        {name: "Green", hex: "#3FB950"},
-        {name: "Blue", hex: "#58A6FF"},
-        {name: "Purple", hex: "#A371F7"},
-        {name: "Gold", hex: "#F0B429"},
-        {name: "Orange", hex: "#F0883E"},
-        {name: "Red", hex: "#F85149"}
-    ]
+    readonly property var swatches: theme.accentSwatches
     // Low enough to sit in line with the swatches.
     readonly property int _resetHeight: 32
 

@@ -44,6 +44,16 @@ QtObject {
     readonly property color actionRaise: dark ? "#F0883E" : "#EA580C"
     readonly property color actionAllIn: dark ? "#FF7B72" : "#EF4444"
 
+    // The accents a user can choose instead of the default; the same in both modes.
+    readonly property var accentSwatches: [
+        {name: "Green", hex: "#3FB950"},
+        {name: "Blue", hex: "#58A6FF"},
+        {name: "Purple", hex: "#A371F7"},
+        {name: "Gold", hex: "#F0B429"},
+        {name: "Orange", hex: "#F0883E"},
+        {name: "Red", hex: "#F85149"}
+    ]
+
     // Sized bets and raises of one node, coloured by their rank within the node, smallest first.
     readonly property var betRankColors: dark ? ["#818CF8", "#A78BFA", "#C084FC", "#E879F9", "#F0ABFC"]
                                               : ["#4F46E5", "#7C3AED", "#9333EA", "#C026D3", "#BE185D"]
