@@ -74,6 +74,15 @@ RowLayout {
         Layout.fillWidth: true
     }
 
+    SecondaryButton {
+        objectName: "playModeButton"
+        theme: header.theme
+        enabled: header.page.hasResults
+        text: header.page.playMode ? qsTranslate("ResultsPage", "Range view")
+                                   : qsTranslate("ResultsPage", "Play vs solution")
+        onClicked: header.page.togglePlayMode()
+    }
+
     StatCard {
         objectName: "evOopCard"
         Layout.preferredWidth: header._statWidth

@@ -9,6 +9,8 @@ import "ResultsStrategy.js" as ResultsStrategy
 import "HandSearch.js" as HandSearch
 import "ChanceCards.js" as ChanceCards
 import "../components/RangeText.js" as RangeText
+import "PlayRules.js" as PlayRules
+import "PlayTexts.js" as PlayTexts
 
 Item {
     id: page
@@ -60,6 +62,45 @@ Item {
     property string nodeLockWeightText: "1.0"
     property var nodeLocksByNode: ({})
     readonly property var nodeLockActionList: _nodeLockActionList()
+
+    property bool playMode: false
+    property string playRole: ""
+    property bool playSessionStarted: false
+    property string playBoardText: ""
+    property bool playAwaitingUserAction: false
+    property int playNodeIndex: -1
+    property int playStepDelayMs: 1000
+    property bool playHandComplete: false
+    property string playActionLine: ""
+    property string oopCard1: ""
+    property string oopCard2: ""
+    property string ipCard1: ""
+    property string ipCard2: ""
+    property string playLastActionActor: ""
+    property string playLastActionText: ""
+    property bool playStopOnSuboptimalAction: true
+    property real playSuboptimalEpsilon: 1e-6
+    property real playSuboptimalRelativeTol: 0.01
+    property bool playDrillMode: false
+    property int playDrillNodeIndex: -1
+    property string playDrillActor: ""
+    property string playDrillFeedbackText: ""
+    property bool playDrillFeedbackWrong: false
+    property real playDrillFeedbackEvLoss: NaN
+    property int playSelectedLogIndex: -1
+    property var playSelectedLog: ({})
+    property var playSelectedDetails: ({})
+    property string playLastEndReason: ""
+    property string playLastMistakeActor: ""
+    property string playLastMistakeAction: ""
+    property string playLastCorrectAction: ""
+    property real playLastEvLoss: NaN
+    property real playLastBestEv: NaN
+    property real playLastChosenEv: NaN
+    property bool _internalPlayReset: false
+    property var _playHandComboEvCache: ({})
+    // Kept for the whole process, newest first; leaving the mode does not clear it.
+    property ListModel playHandLog: ListModel {}
 
     readonly property bool hasResults: _resultCount() > 0
     readonly property var _currentMeta: _metaForNode(currentNodeIndex)
@@ -168,6 +209,11 @@ Item {
     }
 
     function _onCurrentNodeChanged() {
+        _playHandComboEvCache = ({})
+        if (playMode && playSessionStarted && !playHandComplete && !_internalPlayReset) {
+            playNodeIndex = currentNodeIndex
+            _schedulePlayTick(0)
+        }
         const meta = _metaForNode(currentNodeIndex)
         if (meta.player !== undefined && meta.player !== "")
             selectedPlayer = meta.player
@@ -214,7 +260,12 @@ Item {
         overrides[String(treeLevels.get(level).nodeIndex)] = displayCard
         chanceCardDisplayOverrideByNode = overrides
         chancePicker.close()
+        const replaying = playMode && playSessionStarted
+        if (replaying)
+            _jumpToLevelForReselect(level)
         selectActionAtLevel(level, action)
+        if (replaying)
+            playDrill.afterRunoutChosen(level, String(chancePickerActions[action].name))
     }
 
     function chooseChanceCard(action, displayCardText) {
@@ -402,6 +453,72 @@ Item {
             toggleHandFilter(hand)
     }
 
+    function togglePlayMode() { playSession.setMode(!playMode) }
+    function startPlaySession(role) { playSession.start(role) }
+    function _startPlaySessionImpl(role) { playSession.startImpl(role) }
+    function resetPlaySession() { playSession.reset() }
+    function _schedulePlayTick(ms) { playSession.schedule(ms) }
+    function playTick() { playSession.tick() }
+    function _dealToSeat(seat, used) { return playSession.dealToSeat(seat, used, currentNodeIndex) }
+    function _pickWeightedActionIndex(actions, used) {
+        return PlayRules.pickWeightedActionIndex(actions, used, Math.random())
+    }
+    function _autoHandleChanceNode() { playSession.autoHandleChance() }
+    function _advancePlayByActionIndex(action) { playSession.advance(action) }
+    function choosePlayAction(action) { playSession.chooseAction(action) }
+    function _suboptimalEvInfoAtNode(node, actor, action) { return playSession.evInfoAtNode(node, actor, action) }
+    function _logPlayHand(extra) { return playSession.log(extra) }
+    function selectPlayLog(index) { playSession.select(index) }
+    function anotherHand() { playSession.anotherHand() }
+    function startDrillSpot() { playDrill.start() }
+    function stopDrillSpot() { playDrill.stop() }
+    function _dealDrillHand() { playDrill.deal() }
+    function _handleDrillChoice(action) { playDrill.choose(action) }
+    function playDrillAvailable() { return playDrill.available() }
+    function playDrillContextText() { return playDrill.contextText() }
+    function _findChanceLevel(deal) { return playDrill.findChanceLevel(deal) }
+    function _jumpToLevelForReselect(level) { playDrill.jumpToLevel(level) }
+    function playCanChangeRunout(deal) { return playDrill.canChangeRunout(deal) }
+    function changePlayRunout(deal) { playDrill.changeRunout(deal) }
+    function playLogFooterText(row) { return playSession.logFooterText(row) }
+    function playLogHeroCards(row) { return playSession.logHeroCards(row) }
+
+    function playActingSeat() {
+        if (playDrillMode)
+            return playDrillActor
+        const meta = _metaForNode(playSession.playNode())
+        return meta.nodeType === "decision" ? String(meta.player) : ""
+    }
+
+    function playActionNames() {
+        const node = playDrillMode ? playDrillNodeIndex : playSession.playNode()
+        return _actionsForNode(node).map(action => String(action.name))
+    }
+
+    function playSeatIsHero(seat) {
+        return playRole === "BOTH" || playRole === seat || (playDrillMode && playDrillActor === seat)
+    }
+
+    function _playMeta() {
+        return playSessionStarted ? _metaForNode(playSession.playNode()) : ({})
+    }
+
+    function _resumePlayAfterPicker() {
+        if (playSessionStarted && !playHandComplete && !playAwaitingUserAction && !playSession.tickTimer.running)
+            _schedulePlayTick(0)
+    }
+
+    function playPotText() { return PlayTexts.potText(_playMeta()) }
+    function playStackText(seat) { return PlayTexts.stackText(_playMeta(), seat) }
+
+    function _buildPlayHandDetails(entry) {
+        const showdown = (board, oop, ip) => controller && typeof controller.showdownWinner === "function"
+                         ? String(controller.showdownWinner(board, oop, ip).winner) : ""
+        const facts = PlayRules.handFacts(entry, boardText, showdown, rakePercent, rakeCap)
+        facts.summaryLines = PlayTexts.summaryLines(facts, entry)
+        return facts
+    }
+
     onCurrentNodeIndexChanged: _onCurrentNodeChanged()
     onSelectedBucketChanged: refreshHandMatrix()
     Component.onCompleted: resetTreeToRoot()
@@ -445,6 +562,20 @@ Item {
         }
     }
 
+    PlaySession {
+        id: playSession
+
+        page: page
+        drill: playDrill
+    }
+
+    PlayDrill {
+        id: playDrill
+
+        page: page
+        session: playSession
+    }
+
     ChancePickerPopup {
         id: chancePicker
 
@@ -452,5 +583,7 @@ Item {
         page: page
         theme: page.theme
         type: page.type
+        // A runout picker left without a choice lets the paused hand go on.
+        onClosed: page._resumePlayAfterPicker()
     }
 }

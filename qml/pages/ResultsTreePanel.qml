@@ -50,6 +50,8 @@ Rectangle {
                         anchors.fill: parent
                         hoverEnabled: true
                         cursorShape: Qt.PointingHandCursor
+                        // While playing, the tree follows the hand and takes no clicks.
+                        enabled: !panel.page.playMode
                         onClicked: panel.page.navigateToBreadcrumb(parent.index)
                     }
                 }
@@ -75,6 +77,7 @@ Rectangle {
                 required property int selectedActionIndex
 
                 width: levels.width
+                enabled: !panel.page.playMode
                 page: panel.page
                 theme: panel.theme
                 type: panel.type
