@@ -527,7 +527,10 @@ Item {
         target: page.controller
         ignoreUnknownSignals: true
 
+        // Node numbers of the old solution mean nothing in the new one: a hand in play ends.
         function onResultsChanged() {
+            if (page.playSessionStarted)
+                page.resetPlaySession()
             page.resetTreeToRoot()
         }
     }

@@ -14,6 +14,7 @@ Rectangle {
 
     readonly property int _sideColumnWidth: 340
     readonly property int _mainRowMinHeight: 560
+    readonly property int _playMinHeight: 780
 
     color: theme.bg0
 
@@ -55,10 +56,25 @@ Rectangle {
                 }
             }
 
+            // The table replaces the strategy panels while playing against the solution.
+            PlayPanel {
+                objectName: "playPanel"
+                visible: view.page.playMode
+                Layout.fillWidth: true
+                Layout.leftMargin: view.theme.spaceMd
+                Layout.rightMargin: view.theme.spaceMd
+                Layout.bottomMargin: view.theme.spaceMd
+                Layout.preferredHeight: Math.max(view._playMinHeight, scroller.availableHeight - y - view.theme.spaceMd)
+                page: view.page
+                theme: view.theme
+                type: view.type
+            }
+
             // The lists take the rest of the window's height, and scroll inside.
             RowLayout {
                 id: mainRow
 
+                visible: !view.page.playMode
                 Layout.fillWidth: true
                 Layout.leftMargin: view.theme.spaceMd
                 Layout.rightMargin: view.theme.spaceMd

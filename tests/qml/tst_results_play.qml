@@ -117,6 +117,34 @@ TestCase {
         compare(page.playMode, false)
     }
 
+    function test_theHeaderButtonSwapsThePanelsForTheTable() {
+        solve(spots.river)
+        const page = createTemporaryObject(pageComponent, testCase, {boardText: spots.river.board})
+        waitForRendering(page)
+        const button = findChild(page, "playModeButton")
+        compare(button.text, "Play vs solution")
+        page.selectActionAtLevel(0, 0)
+        mouseClick(button)
+        compare(page.playMode, true)
+        compare(button.text, "Range view")
+        compare(page.treeLevels.count, 1, "the tree went back to the root")
+        verify(findChild(page, "playPanel").visible)
+        verify(findChild(page, "actionFrequencies").visible)
+        waitForRendering(page)
+        const levels = findChild(page, "treeLevels")
+        compare(levels.itemAtIndex(0).enabled, false, "the tree takes no clicks while playing")
+        page.playStepDelayMs = stepMs
+        mouseClick(findChild(page, "playRoleOop"))
+        compare(page.playRole, "OOP")
+        waitForHero(page)
+        tryVerify(() => findChild(page, "playActionButton") !== null && findChild(page, "playActionButton").visible)
+        mouseClick(button)
+        compare(page.playMode, false)
+        compare(page.playSessionStarted, false)
+        verify(!findChild(page, "playPanel").visible)
+        compare(levels.itemAtIndex(0).enabled, true)
+    }
+
     function test_dealingTakesDistinctCardsOfTheRangesOffTheBoard() {
         const page = riverPage()
         const inRange = (seat, cards) => appController.nodeSeatHandCombos(0, seat).some(
@@ -415,6 +443,17 @@ TestCase {
             compare(page._pickWeightedActionIndex(page._actionsForNode(chanceNode), used), 0)
     }
 
+    function test_newResultsEndARunningHand() {
+        const page = riverPage()
+        page.startPlaySession("OOP")
+        waitForHero(page)
+        solve(spots.flop("Ks7d2c"))
+        compare(page.playSessionStarted, false)
+        compare(page.playAwaitingUserAction, false)
+        compare(page.currentNodeIndex, 0)
+        verify(page.playMode, "the table stays, ready for a new session")
+    }
+
     function test_theTurnOfARunningHandCanBeChanged() {
         const page = playPage(spots.flop("Ks7d2c"))
         page.startPlaySession("BOTH")
@@ -428,6 +467,7 @@ TestCase {
         const turn = page.playBoardText.substr(6, 2)
         verify(page.playCanChangeRunout("turn"))
         verify(!page.playCanChangeRunout("river"))
+        tryVerify(() => findChild(page, "playRunoutHint").visible, 2000, "the table offers the change")
         compare(page._findChanceLevel("turn"), 2)
         page.changePlayRunout("turn")
         tryVerify(() => page.chancePickerActions.length > 0)
