@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import Kelvane
+import "ListRows.js" as ListRows
 
 ResultsPanel {
     id: panel
@@ -16,6 +17,25 @@ ResultsPanel {
     title: qsTranslate("ResultsPage", "Buckets")
     badge: qsTranslate("ResultsPage", "%1 shown").arg(page.currentBuckets.length)
 
+    Component.onCompleted: ListRows.resize(rows, page.currentBuckets.length)
+
+    ListModel {
+        id: rows
+    }
+
+    Connections {
+        target: panel.page
+
+        function onCurrentBucketsChanged() {
+            ListRows.resize(rows, panel.page.currentBuckets.length)
+        }
+
+        // The rows outlive the node, but a new node's list starts at its top.
+        function onCurrentNodeIndexChanged() {
+            list.positionViewAtBeginning()
+        }
+    }
+
     ListView {
         id: list
 
@@ -24,8 +44,8 @@ ResultsPanel {
         Layout.fillHeight: true
         clip: true
         spacing: panel.theme.spaceXs
-        // Counted rather than given the list, so that the next node's buckets reuse these rows.
-        model: panel.page.currentBuckets.length
+        // Rows that follow the list's length, so that a node change refills them.
+        model: rows
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
@@ -34,7 +54,8 @@ ResultsPanel {
             id: row
 
             required property int index
-            readonly property var modelData: panel.page.currentBuckets[index]
+            readonly property var modelData: ListRows.entryAt(panel.page.currentBuckets, index,
+                                                              ({name: "", combos: 0}))
             readonly property bool _selected: panel.page.selectedBucket === modelData.name
 
             objectName: "bucket_" + modelData.name

@@ -15,18 +15,21 @@ Rectangle {
     readonly property int _barWidth: 140
     readonly property real _cardScale: 0.8
 
-    function _evLines() {
+    // One line per action EV, or a single line with the plain EV when the combo has none: only the count makes
+    // lines, so that the next combo with as many actions refills them in place.
+    function _evLineCount() {
         const evs = combo.actionEvs
-        const lines = []
+        return evs && evs.length > 0 ? evs.length : 1
+    }
+
+    function _evLine(i) {
+        const evs = combo.actionEvs
         if (!evs || evs.length === 0)
-            return [{text: _format(combo.ev), color: theme.text}]
-        for (let i = 0; i < evs.length; ++i) {
-            const action = page._safeActionAt(page.currentActions, i)
-            const name = action ? String(action.name) : ""
-            lines.push({text: (name ? name + " " : "") + _format(evs[i]),
-                        color: theme.actionColor(name ? name : (action ? action.actionType : ""))})
-        }
-        return lines
+            return {text: _format(combo.ev), color: theme.text}
+        const action = page._safeActionAt(page.currentActions, i)
+        const name = action ? String(action.name) : ""
+        return {text: (name ? name + " " : "") + _format(evs[i]),
+                color: theme.actionColor(name ? name : (action ? action.actionType : ""))}
     }
 
     function _format(value) {
@@ -35,7 +38,7 @@ Rectangle {
     }
 
     function _card(text, part) {
-        return String(text).charAt(part)
+        return text ? String(text).charAt(part) : ""
     }
 
     implicitHeight: content.implicitHeight + 2 * theme.spaceXs
@@ -49,23 +52,25 @@ Rectangle {
         anchors.margins: row.theme.spaceXs
         spacing: row.theme.spaceSm
 
+        // Two fixed cards rather than a repeater over a fresh pair, which would rebuild them for every combo.
         Row {
             Layout.alignment: Qt.AlignVCenter
             spacing: 2
 
-            Repeater {
-                model: [row.combo.c1, row.combo.c2]
+            MiniCard {
+                objectName: "firstCard"
+                theme: row.theme
+                sizeScale: row._cardScale
+                rank: row._card(row.combo.c1, 0)
+                suit: row._card(row.combo.c1, 1)
+            }
 
-                PlayingCard {
-                    required property var modelData
-
-                    theme: row.theme
-                    mini: true
-                    hoverable: false
-                    sizeScale: row._cardScale
-                    rank: row._card(modelData, 0)
-                    suit: row._card(modelData, 1)
-                }
+            MiniCard {
+                objectName: "secondCard"
+                theme: row.theme
+                sizeScale: row._cardScale
+                rank: row._card(row.combo.c2, 0)
+                suit: row._card(row.combo.c2, 1)
             }
         }
 
@@ -79,20 +84,22 @@ Rectangle {
         }
 
         Column {
+            objectName: "evLines"
             Layout.fillWidth: true
             Layout.alignment: Qt.AlignVCenter
 
             Repeater {
-                model: row._evLines()
+                model: row._evLineCount()
 
                 ResultsText {
-                    required property var modelData
+                    required property int index
+                    readonly property var _line: row._evLine(index)
 
                     width: parent.width
                     theme: row.theme
                     type: row.type
-                    text: modelData.text
-                    color: modelData.color
+                    text: _line.text
+                    color: _line.color
                     font.family: row.theme.fontMono
                     font.pixelSize: row.type.labelMd
                 }
@@ -100,6 +107,7 @@ Rectangle {
         }
 
         ActionBar {
+            objectName: "comboStrategy"
             Layout.preferredWidth: row._barWidth
             Layout.alignment: Qt.AlignVCenter
             theme: row.theme

@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
 import Kelvane
+import "ListRows.js" as ListRows
 
 ResultsPanel {
     id: panel
@@ -30,6 +31,8 @@ ResultsPanel {
             onTextEdited: panel.page.handSearchText = text
         }
     ]
+
+    Component.onCompleted: ListRows.resize(rows, page.visibleHandCombos.length)
 
     RowLayout {
         objectName: "handFilterRow"
@@ -64,6 +67,23 @@ ResultsPanel {
         wrapMode: Text.Wrap
     }
 
+    ListModel {
+        id: rows
+    }
+
+    Connections {
+        target: panel.page
+
+        function onVisibleHandCombosChanged() {
+            ListRows.resize(rows, panel.page.visibleHandCombos.length)
+        }
+
+        // The rows outlive the node, but a new node's list starts at its top.
+        function onCurrentNodeIndexChanged() {
+            list.positionViewAtBeginning()
+        }
+    }
+
     ListView {
         id: list
 
@@ -72,8 +92,8 @@ ResultsPanel {
         Layout.fillHeight: true
         clip: true
         spacing: panel.theme.spaceXs
-        // Counted rather than given the list, so that a node with as many combos reuses the rows it has.
-        model: panel.page.visibleHandCombos.length
+        // Rows that follow the list's length, so that a node change refills them.
+        model: rows
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
@@ -85,7 +105,7 @@ ResultsPanel {
             page: panel.page
             theme: panel.theme
             type: panel.type
-            combo: panel.page.visibleHandCombos[index]
+            combo: ListRows.entryAt(panel.page.visibleHandCombos, index, ({}))
         }
     }
 }
