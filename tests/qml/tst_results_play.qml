@@ -351,6 +351,18 @@ TestCase {
         compare(page.treeLevels.count, 1)
     }
 
+    function test_aHandIsLoggedWithoutAController() {
+        const page = createTemporaryObject(pageComponent, testCase, {controller: null})
+        const entry = page._logPlayHand({endedReason: "suboptimal", evLoss: 0.5, mistakeActor: "OOP"})
+        compare(page.playHandLog.count, 1)
+        compare(entry.isMistake, true)
+        compare(page.playHandLog.get(0).pot, 0)
+        compare(page.playLastEndReason, "suboptimal")
+        compare(page.playLastMistakeActor, "OOP")
+        compare(page.playLogFooterText(0), "EV -0.500")
+        compare(page._buildPlayHandDetails(page.playSelectedLog).winner, "")
+    }
+
     function test_handDetailsOfAShowdownWithRake() {
         const page = riverPage()
         page.rakePercent = 5
