@@ -296,6 +296,7 @@ TestCase {
     function test_everyLogEntryHasEveryFieldAndStatisticsCountEachHandOnce() {
         const page = riverPage()
         statsSpy.clear()
+        const before = appController.playVsSolutionStats()
         page.startPlaySession("BOTH")
         page.playStopOnSuboptimalAction = false
         // Check and call down: the hand ends at the river showdown.
@@ -326,6 +327,9 @@ TestCase {
         setComboEvs(page, 0, "OOP", [2.5, 1.25])
         page.choosePlayAction(1)
         compare(statsSpy.count, 2)
+        const after = appController.playVsSolutionStats()
+        compare(after.totalHands, before.totalHands + 2, "the Home page's figures count both hands")
+        compare(after.totalMistakes, before.totalMistakes + 1)
         const mistake = page.playHandLog.get(0)
         for (const field of logFields)
             verify(mistake[field] !== undefined, field)
