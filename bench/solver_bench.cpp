@@ -137,6 +137,7 @@ int main(int argc, char** argv) {
     register_spot("river", 2000);
     register_spot("turn", 40);
     register_spot("default", 3);  // a flop spot of about 1.2 GB of strategy storage
+    register_spot("anchor", 3);   // a deeper flop tree with all-ins, about 2.4 s per iteration
     SummaryReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     print_summary();

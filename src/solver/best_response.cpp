@@ -6,6 +6,7 @@
 
 #include "solver/chance_sum.h"
 #include "solver/discounted_cfr.h"
+#include "solver/fan_out.h"
 #include "solver/node_locks.h"
 #include "solver/regret_matching.h"
 #include "solver/row_kernels.h"
@@ -26,14 +27,6 @@ void expected_values(std::span<float> out, const float* values, const float* p, 
         }
         out[h] = static_cast<float>(total);
     }
-}
-
-// Sibling subtrees share states only where a child index repeats; then they must not be walked at once.
-bool distinct(std::span<const std::uint64_t> children) {
-    for (std::size_t a = 0; a < children.size(); ++a)
-        for (std::size_t b = a + 1; b < children.size(); ++b)
-            if (children[a] == children[b]) return false;
-    return true;
 }
 
 float best_of(const float* values, std::size_t actions, std::size_t hands, std::size_t h) {
@@ -102,10 +95,10 @@ void DiscountedCfr::compute_cfvalue_recursive(const Game& game, std::uint64_t no
     }
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for (std::size_t a = 0; a < actions; ++a) {
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         compute_cfvalue_recursive(game, n.children[a], seat, opponent_reach, child_values.subspan(a * hands, hands),
-                                  store, depth + 1, scratch);
-    }
+                                  store, depth + 1, stack);
+    });
     // Locks need no look-up here: the strategy sums already accumulated the overlaid strategy.
     std::span<float> p = grow_buffer(frame.strategy, actions * hands);
     std::span<float> denom = grow_buffer(frame.strategy_denom, hands);
@@ -142,10 +135,10 @@ void DiscountedCfr::compute_best_cfvalue_recursive(const Game& game, std::uint64
     }
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for (std::size_t a = 0; a < actions; ++a) {
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         compute_best_cfvalue_recursive(game, n.children[a], seat, opponent_reach,
-                                       child_values.subspan(a * hands, hands), depth + 1, scratch);
-    }
+                                       child_values.subspan(a * hands, hands), depth + 1, stack);
+    });
     best_values(game.locking_strategy(node), child_values.data(), actions, out);
 }
 
@@ -174,19 +167,9 @@ void DiscountedCfr::value_chance(ValueWalk walk, const Game& game, std::uint64_t
     scale_row(reach.data(), opponent_reach.data(), k, reach.size());
     std::span<float> child_values = frame.grow_child_values(actions, hands);
 
-    // Every call of the body walks its children with a fresh scratch, also when all of it stays here.
-    const auto body = [&](std::uint64_t begin, std::uint64_t end) {
-        ScratchStack chunk_scratch;
-        for (std::uint64_t a = begin; a < end; ++a) {
-            value_walk(walk, game, n.children[a], seat, reach, child_values.subspan(a * hands, hands), depth + 1,
-                       chunk_scratch);
-        }
-    };
-    if (parallel_chance[node] != 0) {
-        parallel_for(actions, body);
-    } else {
-        body(0, actions);
-    }
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+        value_walk(walk, game, n.children[a], seat, reach, child_values.subspan(a * hands, hands), depth + 1, stack);
+    });
     sum_chance_children(game, node, seat, frame, child_values, actions, out);
 }
 
@@ -211,13 +194,15 @@ void DiscountedCfr::value_opponent(ValueWalk walk, const Game& game, std::uint64
     std::span<float> denom = grow_buffer(frame.other_denom, reach_size);
     regret_match(strategy_sum_of(state), p, denom, actions, reach_size);
 
-    std::span<float> reach = grow_buffer(frame.reach_row, reach_size);
+    // One reach row for each action, so that the actions can be walked side by side.
+    std::span<float> reach = grow_buffer(frame.child_reach, actions * reach_size);
+    for (std::size_t a = 0; a < actions; ++a)
+        multiply_row(reach.data() + a * reach_size, p.data() + a * reach_size, opponent_reach.data(), reach_size);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for (std::size_t a = 0; a < actions; ++a) {
-        multiply_row(reach.data(), p.data() + a * reach_size, opponent_reach.data(), reach_size);
-        value_walk(walk, game, n.children[a], seat, reach, child_values.subspan(a * hands, hands), depth + 1,
-                   scratch);
-    }
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+        value_walk(walk, game, n.children[a], seat, reach.subspan(a * reach_size, reach_size),
+                   child_values.subspan(a * hands, hands), depth + 1, stack);
+    });
     if (walk == ValueWalk::best_response) {
         zero(out);
         add_rows(out.data(), child_values.data(), actions, hands);
@@ -231,7 +216,8 @@ void DiscountedCfr::value_opponent(ValueWalk walk, const Game& game, std::uint64
 }
 
 SeatValues DiscountedCfr::root_values(const Game& game, ValueWalk walk) {
-    ScratchStack walk_scratch;
+    ScratchLease lease;
+    ScratchStack& walk_scratch = lease.stack();
     SeatValues values{};
     for (std::uint8_t seat = 0; seat < 2; ++seat) {
         std::vector<float>& result = result_values[seat];
@@ -273,8 +259,8 @@ std::vector<float> DiscountedCfr::node_values_with_reach(const Game& game, std::
                                                          std::span<const float> reach) {
     if (game.hand_count(seat) == 0) return {};
     std::vector<float> values(game.hand_count(seat), 0.0f);
-    ScratchStack walk_scratch;
-    compute_cfvalue_recursive(game, node, seat, reach, values, false, 0, walk_scratch);
+    ScratchLease lease;
+    compute_cfvalue_recursive(game, node, seat, reach, values, false, 0, lease.stack());
     return values;
 }
 
@@ -313,7 +299,7 @@ void DiscountedCfr::walk_children(const Game& game, std::span<const std::uint64_
             compute_cfvalue_recursive(game, children[a], seat, reach, out.subspan(a * hands, hands), false, 0,
                                       walk_scratch);
     };
-    const std::size_t walkers = distinct(children) ? std::min<std::size_t>(
+    const std::size_t walkers = children_distinct(children) ? std::min<std::size_t>(
                                                          std::max(1u, std::thread::hardware_concurrency()),
                                                          children.size())
                                                    : 1;

@@ -58,20 +58,10 @@ void DiscountedCfr::solve_chance(const Game& game, std::uint64_t node, std::uint
     scale_row(reach.data(), opponent_reach.data(), k, reach.size());
     std::span<float> child_values = frame.grow_child_values(actions, hands);
 
-    const auto walk_children = [&](std::uint64_t begin, std::uint64_t end, ScratchStack& stack) {
-        for (std::uint64_t a = begin; a < end; ++a) {
-            solve_recursive(game, n.children[a], seat, reach, child_values.subspan(a * hands, hands),
-                            child_first_action(first_action, a), depth + 1, stack);
-        }
-    };
-    if (update_pass_fans_out(actions, hands, depth) && parallel_chance[node] != 0) {
-        parallel_for(actions, [&](std::uint64_t begin, std::uint64_t end) {
-            ScratchStack chunk_scratch;
-            walk_children(begin, end, chunk_scratch);
-        });
-    } else {
-        walk_children(0, actions, scratch);
-    }
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+        solve_recursive(game, n.children[a], seat, reach, child_values.subspan(a * hands, hands),
+                        child_first_action(first_action, a), depth + 1, stack);
+    });
     sum_chance_children(game, node, seat, frame, child_values, actions, out);
 }
 
@@ -104,11 +94,11 @@ void DiscountedCfr::solve_opponent(const Game& game, std::uint64_t node, std::ui
                      reach_size);
     }
     std::span<float> action_values = grow_buffer(frame.action_values, actions * hands);
-    for (std::size_t a = 0; a < actions; ++a) {
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         solve_recursive(game, n.children[a], seat, child_reach.subspan(a * reach_size, reach_size),
                         action_values.subspan(a * hands, hands), child_first_action(first_action, a), depth + 1,
-                        scratch);
-    }
+                        stack);
+    });
     zero(out);
     add_rows(out.data(), action_values.data(), actions, hands);
 }
@@ -128,10 +118,10 @@ void DiscountedCfr::solve_own(const Game& game, std::uint64_t node, std::uint8_t
     std::vector<float>& strategy_sum = strategy_sum_of(state);
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> action_values = grow_buffer(frame.action_values, actions * hands);
-    for (std::size_t a = 0; a < actions; ++a) {
+    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         solve_recursive(game, n.children[a], seat, opponent_reach, action_values.subspan(a * hands, hands),
-                        child_first_action(first_action, a), depth + 1, scratch);
-    }
+                        child_first_action(first_action, a), depth + 1, stack);
+    });
 
     // Formed after the recursion, which touches only other nodes' states.
     std::span<float> strategy = grow_buffer(frame.strategy, actions * hands);

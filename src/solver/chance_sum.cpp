@@ -8,18 +8,6 @@
 
 namespace kelvane {
 
-namespace {
-
-constexpr std::uint64_t kParallelMinChildren = 12;
-constexpr std::uint64_t kParallelMinHands = 128;
-constexpr std::uint64_t kParallelMaxDepth = 6;
-
-}  // namespace
-
-bool update_pass_fans_out(std::uint64_t children, std::uint64_t hands, std::uint64_t depth) {
-    return children >= kParallelMinChildren && hands >= kParallelMinHands && depth <= kParallelMaxDepth;
-}
-
 void sum_chance_children(const Game& game, std::uint64_t node, std::uint8_t seat, ScratchFrame& frame,
                          std::span<const float> child_values, std::size_t children, std::span<float> out) {
     const std::size_t hands = out.size();

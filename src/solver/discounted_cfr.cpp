@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "solver/discount_schedule.h"
+#include "solver/fan_out.h"
 #include "solver/regret_matching.h"
 #include "solver/state_packing.h"
 
@@ -86,18 +87,9 @@ void DiscountedCfr::prepare_states(const Game& game) {
     parallel_chance.assign(count, 1);
     for (std::uint64_t n = 0; n < count; ++n) {
         const GameNode& node = game.node(n);
-        if (node.kind != kNodeChance) continue;
-        // Two children sharing one index would share one subtree of states between tasks.
-        const std::vector<std::uint64_t>& children = node.children;
-        for (std::size_t a = 0; a < children.size() && parallel_chance[n] != 0; ++a) {
-            for (std::size_t b = a + 1; b < children.size(); ++b) {
-                if (children[a] == children[b]) {
-                    parallel_chance[n] = 0;
-                    break;
-                }
-            }
-        }
+        if (node.kind != kNodeTerminal && !children_distinct(node.children)) parallel_chance[n] = 0;
     }
+    subtree_nodes = subtree_sizes(game);
 
     states.assign(count, NodeState{});
     parallel_for(count, [&](std::uint64_t begin, std::uint64_t end) {
@@ -117,6 +109,10 @@ void DiscountedCfr::prepare_states(const Game& game) {
             }
         }
     });
+}
+
+bool DiscountedCfr::fans_out(std::uint64_t node, std::uint64_t hands) const {
+    return pool != nullptr && parallel_chance[node] != 0 && worth_fanning_out(subtree_nodes[node], hands);
 }
 
 std::vector<float>& DiscountedCfr::regrets_of(NodeState& state) {

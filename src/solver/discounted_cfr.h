@@ -121,6 +121,22 @@ private:
     void solve_own(const Game& game, std::uint64_t node, std::uint8_t seat, std::span<const float> opponent_reach,
                    std::span<float> out, std::int32_t first_action, std::uint64_t depth, ScratchStack& scratch);
     SeatValues root_values(const Game& game, ValueWalk walk);
+    // Walks children [0, count) of `node` as walk(a, scratch). Where the subtree pays for a fan-out
+    // they go side by side, each chunk on a scratch stack leased by the thread that runs it; else in
+    // order on the caller's `scratch`. Each child writes only its own rows, so the result is the same.
+    template <class Walk>
+    void for_each_child(std::uint64_t node, std::uint64_t count, std::uint64_t hands, ScratchStack& scratch,
+                        const Walk& walk) {
+        if (!fans_out(node, hands)) {
+            for (std::uint64_t a = 0; a < count; ++a) walk(a, scratch);
+            return;
+        }
+        parallel_for(count, [&](std::uint64_t begin, std::uint64_t end) {
+            ScratchLease lease;
+            for (std::uint64_t a = begin; a < end; ++a) walk(a, lease.stack());
+        });
+    }
+    bool fans_out(std::uint64_t node, std::uint64_t hands) const;
     void walk_children(const Game& game, std::span<const std::uint64_t> children, std::uint8_t seat,
                        std::span<const float> reach, std::span<float> out);
 
@@ -132,7 +148,9 @@ private:
     std::array<std::vector<float>, 2> result_values;
     std::vector<NodeState> states;
     bool compress_state = false;
+    // 1 where a node's children may be walked side by side: chance and decision nodes alike.
     std::vector<std::uint8_t> parallel_chance;
+    std::vector<std::uint64_t> subtree_nodes;
     float alpha_t = 0.0f;
     float beta_t = 0.5f;
     float gamma_t = 0.0f;

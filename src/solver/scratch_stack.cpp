@@ -2,6 +2,24 @@
 
 namespace kelvane {
 
+namespace {
+
+// The calling thread's stacks; the first `in_use` of them are leased, innermost last.
+struct ThreadScratch {
+    std::deque<ScratchStack> stacks;
+    std::size_t in_use = 0;
+};
+
+thread_local ThreadScratch thread_scratch;
+
+ScratchStack& lease_stack() {
+    ThreadScratch& own = thread_scratch;
+    if (own.in_use == own.stacks.size()) own.stacks.emplace_back();
+    return own.stacks[own.in_use++];
+}
+
+}  // namespace
+
 std::span<float> grow_buffer(std::vector<float>& buffer, std::size_t length) {
     if (buffer.size() < length) buffer.resize(length);
     return {buffer.data(), length};
@@ -19,5 +37,9 @@ ScratchFrame& ScratchStack::frame(std::uint64_t depth) {
     while (overflow.size() < needed) overflow.emplace_back();
     return overflow[depth - kInPlaceFrames];
 }
+
+ScratchLease::ScratchLease() : leased(lease_stack()) {}
+
+ScratchLease::~ScratchLease() { --thread_scratch.in_use; }
 
 }  // namespace kelvane

@@ -45,4 +45,20 @@ private:
     std::deque<ScratchFrame> overflow;
 };
 
+// A ScratchStack of the calling thread's own for one fan-out chunk or one measuring walk, kept by
+// the thread from use to use so that its buffers stay grown. A lease taken while another is held
+// on the same thread (a waiting thread helping with queued work) gets a stack of its own.
+class ScratchLease {
+public:
+    ScratchLease();
+    ~ScratchLease();
+    ScratchLease(const ScratchLease&) = delete;
+    ScratchLease& operator=(const ScratchLease&) = delete;
+
+    ScratchStack& stack() { return leased; }
+
+private:
+    ScratchStack& leased;
+};
+
 }  // namespace kelvane

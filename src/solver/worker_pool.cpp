@@ -1,12 +1,12 @@
 #include "solver/worker_pool.h"
 
-#include <algorithm>
-#include <stdexcept>
-
 namespace kelvane {
+
 namespace {
 
-thread_local bool pool_worker_flag = false;
+// Claims per worker over one fan-out: enough to even out unequal items, few enough that the claim
+// counter stays cold next to the work.
+constexpr std::uint64_t kClaimsPerWorker = 16;
 
 }  // namespace
 
@@ -24,50 +24,65 @@ WorkerPool::~WorkerPool() {
     for (std::thread& thread : threads) thread.join();
 }
 
-void WorkerPool::submit(std::function<void()> task) {
+void WorkerPool::submit(PoolTask task, HelperCount* helpers) {
     {
         std::lock_guard lock(mutex);
-        queue.push_back(std::move(task));
+        queue.push(task);
+        if (helpers != nullptr) ++helpers->pending;
     }
     wake.notify_one();
 }
 
+bool WorkerPool::take(std::unique_lock<std::mutex>& lock, PoolTask& task) {
+    if (!queue.pop(task)) return false;
+    // A woken thread that leaves work behind passes the wake-up on, since it may have been the only one.
+    const bool more = !queue.empty();
+    lock.unlock();
+    if (more) wake.notify_one();
+    return true;
+}
+
 void WorkerPool::run() {
+    std::unique_lock lock(mutex);
     for (;;) {
-        std::unique_lock lock(mutex);
-        wake.wait(lock, [this] { return stopping || !queue.empty(); });
-        if (queue.empty()) return;
-        std::function<void()> task = std::move(queue.front());
-        queue.pop_front();
-        lock.unlock();
-
-        const bool saved = pool_worker_flag;
-        pool_worker_flag = true;
-        task();
-        pool_worker_flag = saved;
+        PoolTask task;
+        if (take(lock, task)) {
+            task.run(task.context);
+            lock.lock();
+            continue;
+        }
+        if (stopping) return;
+        wake.wait(lock);
     }
 }
 
-bool on_pool_worker() { return pool_worker_flag; }
-
-void CountdownLatch::count_down() {
-    if (remaining.fetch_sub(1, std::memory_order_acq_rel) == 1) remaining.notify_all();
+void WorkerPool::helper_done(HelperCount& helpers) {
+    std::lock_guard lock(mutex);
+    if (--helpers.pending == 0) wake.notify_all();
 }
 
-void CountdownLatch::wait() {
-    for (;;) {
-        const std::int64_t value = remaining.load(std::memory_order_acquire);
-        if (value == 0) return;
-        if (value < 0) throw std::logic_error("parallel_for latch fell below zero");
-        remaining.wait(value, std::memory_order_acquire);
+void WorkerPool::wait_helping(HelperCount& helpers, const void* context) {
+    std::unique_lock lock(mutex);
+    // Helpers that never started have nothing left to claim.
+    helpers.pending -= queue.withdraw(context);
+    while (helpers.pending != 0) {
+        PoolTask task;
+        if (take(lock, task)) {
+            task.run(task.context);
+            lock.lock();
+            continue;
+        }
+        wake.wait(lock);
     }
+    // The wake-up that ended the wait may have been meant for a queued task.
+    const bool more = !queue.empty();
+    lock.unlock();
+    if (more) wake.notify_one();
 }
 
-ChunkPlan plan_chunks(std::uint64_t worker_count, std::uint64_t count) {
-    if (count == 0) return {};
-    const std::uint64_t workers = std::min(std::max<std::uint64_t>(worker_count, 1), count);
-    const std::uint64_t chunk = std::max<std::uint64_t>((count + workers - 1) / workers, 1);
-    return {chunk, (count + chunk - 1) / chunk};
+std::uint64_t claim_grain(std::uint64_t worker_count, std::uint64_t count) {
+    const std::uint64_t claims = std::max<std::uint64_t>(worker_count, 1) * kClaimsPerWorker;
+    return std::max<std::uint64_t>((count + claims - 1) / claims, 1);
 }
 
 }  // namespace kelvane

@@ -1,19 +1,19 @@
 #pragma once
-// The solver's thread pool and parallel_for, which splits a count of items into contiguous chunks.
+// The solver's thread pool and parallel_for. Items are claimed in small chunks from a shared counter,
+// so threads that finish early take more; a thread that waits for its fan-out runs queued work meanwhile.
 
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
-#include <deque>
-#include <functional>
 #include <mutex>
 #include <thread>
 #include <vector>
 
+#include "solver/task_queue.h"
+
 namespace kelvane {
 
-// Threads that run queued callables in FIFO order; tasks still queued at destruction run first.
 class WorkerPool {
 public:
     explicit WorkerPool(std::size_t thread_count);
@@ -21,66 +21,100 @@ public:
     WorkerPool(const WorkerPool&) = delete;
     WorkerPool& operator=(const WorkerPool&) = delete;
 
-    void submit(std::function<void()> task);
+    // Counts the queued or running helpers of one fan-out; lives in the fan-out's frame.
+    class HelperCount {
+    private:
+        friend class WorkerPool;
+        std::size_t pending = 0;  // guarded by the pool's mutex
+    };
+
+    // Tasks still queued at destruction run first. A helper task is counted in `helpers` as it is queued.
+    void submit(PoolTask task, HelperCount* helpers = nullptr);
     std::size_t thread_count() const { return threads.size(); }
+    // One helper has ended; the last one wakes the waiter.
+    void helper_done(HelperCount& helpers);
+    // Withdraws the helpers of `context` still queued, then runs queued tasks until every helper
+    // that started has ended, sleeping only while the queue is empty.
+    void wait_helping(HelperCount& helpers, const void* context);
 
 private:
     void run();
+    bool take(std::unique_lock<std::mutex>& lock, PoolTask& task);
 
     std::vector<std::thread> threads;
     std::mutex mutex;
     std::condition_variable wake;
-    std::deque<std::function<void()>> queue;
+    TaskQueue queue;
     bool stopping = false;
 };
 
-// True while the calling thread is a pool thread running a task; such a thread never fans out.
-bool on_pool_worker();
+// Items per claim: a few claims per worker keep threads even without making the counter hot.
+std::uint64_t claim_grain(std::uint64_t worker_count, std::uint64_t count);
 
-// Counts finished chunks down to 0; the waiter blocks on the counter's value without spinning.
-class CountdownLatch {
+// One fan-out: the range, the claim counter and its helpers. Lives in the caller's frame.
+template <class Body>
+class ParallelJob {
 public:
-    explicit CountdownLatch(std::int64_t count) : remaining(count) {}
-    void count_down();
-    void wait();
+    ParallelJob(WorkerPool& pool, const Body& body, std::uint64_t count, std::uint64_t grain)
+        : pool(pool), body(body), count(count), grain(grain) {}
+
+    // Queues `helper_count` helpers, runs chunks on the calling thread until none is left, then waits
+    // for the helpers, running queued work meanwhile.
+    void run(std::size_t helper_count) {
+        try {
+            for (std::size_t i = 0; i < helper_count; ++i) pool.submit({&ParallelJob::run_helper, this}, &helpers);
+            claim_all();
+        } catch (...) {
+            // The helpers refer to this frame: let them end before the exception leaves it.
+            next.store(count, std::memory_order_relaxed);
+            pool.wait_helping(helpers, this);
+            throw;
+        }
+        pool.wait_helping(helpers, this);
+    }
 
 private:
-    std::atomic<std::int64_t> remaining;
+    void claim_all() {
+        for (;;) {
+            const std::uint64_t begin = next.fetch_add(grain, std::memory_order_relaxed);
+            if (begin >= count) return;
+            body(begin, std::min(begin + grain, count));
+        }
+    }
+
+    // A task's exception ends the process, as nobody could catch it on a pool thread.
+    static void run_helper(void* context) noexcept {
+        ParallelJob& job = *static_cast<ParallelJob*>(context);
+        job.claim_all();
+        job.pool.helper_done(job.helpers);
+    }
+
+    WorkerPool& pool;
+    const Body& body;
+    const std::uint64_t count;
+    const std::uint64_t grain;
+    std::atomic<std::uint64_t> next{0};
+    WorkerPool::HelperCount helpers;
 };
 
-struct ChunkPlan {
-    std::uint64_t chunk = 0;
-    std::uint64_t tasks = 0;
-};
-
-// Equal chunks by count: w = min(workers, count), chunk = ceil(count / w), tasks = ceil(count / chunk).
-ChunkPlan plan_chunks(std::uint64_t worker_count, std::uint64_t count);
-
-// Runs body(begin, end) over [0, count): the queued chunks go to the pool, the caller takes the last
-// one itself and then waits for the others. Without a pool, or on a pool thread, it is one plain call.
+// Runs body(begin, end) over contiguous chunks that cover [0, count) once. Chunks go to whichever
+// thread is free, the caller included; the caller returns once all have run. Any thread may call it,
+// a pool thread inside a chunk too. Without a pool, with one worker or fewer than two items it is one
+// plain call.
 template <class Body>
 void parallel_for(WorkerPool* pool, std::uint64_t worker_count, std::uint64_t count, const Body& body) {
-    if (pool == nullptr || worker_count < 2 || count < 2 || on_pool_worker()) {
+    if (pool == nullptr || worker_count < 2 || count < 2) {
         body(std::uint64_t{0}, count);
         return;
     }
-    const ChunkPlan plan = plan_chunks(worker_count, count);
-    const std::uint64_t rest = plan.tasks - 1;
-    if (rest == 0) {
+    const std::uint64_t grain = claim_grain(worker_count, count);
+    const std::uint64_t chunks = (count + grain - 1) / grain;
+    const std::uint64_t helpers = std::min<std::uint64_t>({chunks - 1, worker_count - 1, pool->thread_count()});
+    if (helpers == 0) {
         body(std::uint64_t{0}, count);
         return;
     }
-    CountdownLatch latch(static_cast<std::int64_t>(rest));
-    for (std::uint64_t i = 0; i < rest; ++i) {
-        const std::uint64_t begin = i * plan.chunk;
-        const std::uint64_t end = std::min(begin + plan.chunk, count);
-        pool->submit([&body, &latch, begin, end] {
-            body(begin, end);
-            latch.count_down();
-        });
-    }
-    body(rest * plan.chunk, count);
-    latch.wait();
+    ParallelJob<Body>(*pool, body, count, grain).run(static_cast<std::size_t>(helpers));
 }
 
 }  // namespace kelvane

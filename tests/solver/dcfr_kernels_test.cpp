@@ -8,7 +8,6 @@
 #include <string>
 #include <vector>
 
-#include "solver/chance_sum.h"
 #include "solver/discount_schedule.h"
 #include "solver/node_locks.h"
 #include "solver/regret_matching.h"
@@ -219,13 +218,6 @@ TEST(StatePacking, UnpackGuards) {
     std::vector<float> short_packed;
     unpack_matrix(short_packed, {100}, 1.0f, 2);  // too short to decode
     EXPECT_EQ(short_packed, std::vector<float>(2, 0.0f));
-}
-
-TEST(ChanceFanOut, UpdatePassNeedsWideShallowNodes) {
-    EXPECT_TRUE(update_pass_fans_out(12, 128, 6));
-    EXPECT_FALSE(update_pass_fans_out(11, 1000, 0));  // eleven children stay on the calling thread
-    EXPECT_FALSE(update_pass_fans_out(44, 127, 0));
-    EXPECT_FALSE(update_pass_fans_out(44, 500, 7));
 }
 
 }  // namespace

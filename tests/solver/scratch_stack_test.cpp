@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <thread>
 
 #include "solver/scratch_stack.h"
 
@@ -69,6 +70,42 @@ TEST(ScratchStack, ChildValuesRecordTheirShape) {
     EXPECT_EQ(values.size(), 8u);
     EXPECT_EQ(frame.child_values.size(), 15u);
     EXPECT_EQ(frame.rows, 2u);
+}
+
+TEST(ScratchLease, TheNextLeaseOnAThreadGetsTheSameStackWithItsBuffersGrown) {
+    const float* grown = nullptr;
+    ScratchStack* first = nullptr;
+    {
+        ScratchLease lease;
+        first = &lease.stack();
+        grown = grow_buffer(lease.stack().frame(3).sum, 1000).data();
+    }
+    ScratchLease again;
+    EXPECT_EQ(&again.stack(), first);
+    EXPECT_EQ(again.stack().frame(3).sum.size(), 1000u);
+    EXPECT_EQ(grow_buffer(again.stack().frame(3).sum, 500).data(), grown);  // no new allocation
+}
+
+TEST(ScratchLease, NestedLeasesOnOneThreadGetStacksOfTheirOwn) {
+    ScratchLease outer;
+    ScratchStack* inner_stack = nullptr;
+    {
+        ScratchLease inner;
+        inner_stack = &inner.stack();
+        EXPECT_NE(inner_stack, &outer.stack());
+    }
+    ScratchLease inner_again;
+    EXPECT_EQ(&inner_again.stack(), inner_stack);
+}
+
+TEST(ScratchLease, ThreadsLeaseDifferentStacks) {
+    ScratchLease here;
+    ScratchStack* there = nullptr;
+    std::thread([&] {
+        ScratchLease lease;
+        there = &lease.stack();
+    }).join();
+    EXPECT_NE(there, &here.stack());
 }
 
 }  // namespace
