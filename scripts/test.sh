@@ -25,7 +25,7 @@ build() {  # dir cmake-options...
 build "$root/build" -DCMAKE_BUILD_TYPE=Release
 run_suite release "$root/build"
 
-build "$root/build-asan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_SANITIZE=ON \
+KELVANE_TARGETS=tests_engine build "$root/build-asan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_SANITIZE=ON \
   -DKELVANE_BUILD_QT=OFF -DKELVANE_BUILD_BENCH=OFF
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
   run_suite asan-ubsan "$root/build-asan" -L engine -LE heavy
@@ -35,7 +35,7 @@ KELVANE_TARGETS=app_controller_exit_test build "$root/build-asan-qt" -DCMAKE_BUI
 ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
   run_suite asan-shutdown "$root/build-asan-qt" -L shutdown
 
-build "$root/build-tsan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_TSAN=ON \
+KELVANE_TARGETS=tests_concurrent build "$root/build-tsan" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKELVANE_TSAN=ON \
   -DKELVANE_BUILD_QT=OFF -DKELVANE_BUILD_BENCH=OFF
 TSAN_OPTIONS=halt_on_error=1 run_suite tsan "$root/build-tsan" -L concurrent -LE heavy
 
