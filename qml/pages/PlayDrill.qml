@@ -2,6 +2,7 @@
 // nothing logged. Also the change of a running hand's turn or river through the chance picker.
 import QtQuick
 import "PlayRules.js" as PlayRules
+import "PlayTexts.js" as PlayTexts
 
 QtObject {
     id: drill
@@ -11,7 +12,6 @@ QtObject {
 
     readonly property int feedbackMs: 700
     readonly property int nextRepMs: 450
-    readonly property int evDecimals: 3
 
     property Timer feedbackTimer: Timer {
         interval: drill.feedbackMs
@@ -32,9 +32,13 @@ QtObject {
         page.playDrillMode = false
         page.playDrillNodeIndex = -1
         page.playDrillActor = ""
-        page.playDrillFeedbackText = ""
-        page.playDrillFeedbackWrong = false
-        page.playDrillFeedbackEvLoss = NaN
+        _showFeedback("", false, NaN)
+    }
+
+    function _showFeedback(text, wrong, evLoss) {
+        page.playDrillFeedbackText = text
+        page.playDrillFeedbackWrong = wrong
+        page.playDrillFeedbackEvLoss = evLoss
     }
 
     function _playMeta() {
@@ -54,9 +58,7 @@ QtObject {
         stopTimers()
         page.playDrillNodeIndex = session.playNode()
         page.playDrillActor = String(_playMeta().player)
-        page.playDrillFeedbackText = ""
-        page.playDrillFeedbackWrong = false
-        page.playDrillFeedbackEvLoss = NaN
+        _showFeedback("", false, NaN)
         page.playDrillMode = true
         page._dealDrillHand()
         page.playAwaitingUserAction = true
@@ -65,16 +67,15 @@ QtObject {
     function deal() {
         session.dealBothSeats(page.playDrillNodeIndex)
         page.playActionLine = ""
-        page.playLastActionActor = ""
-        page.playLastActionText = ""
+        session.clearBubble()
     }
 
     function _verdict(info) {
         if (!session.isMistake(info))
             return qsTranslate("ResultsPage", "Correct")
         const best = page._safeActionAt(page._actionsForNode(page.playDrillNodeIndex), info.bestIndex)
-        return qsTranslate("ResultsPage", "Wrong — best: ") + (best ? String(best.name) : "—") + " (EV -"
-                + Number(info.evLoss).toFixed(evDecimals) + ")"
+        return qsTranslate("ResultsPage", "Wrong — best: ") + (best ? String(best.name) : "—") + " (EV "
+                + PlayTexts.lossText(info.evLoss) + ")"
     }
 
     // The tree does not move on: the same decision comes back with a new hand.
@@ -85,9 +86,7 @@ QtObject {
         page.playAwaitingUserAction = false
         const info = page._suboptimalEvInfoAtNode(page.playDrillNodeIndex, page.playDrillActor, action)
         const wrong = session.isMistake(info)
-        page.playDrillFeedbackText = _verdict(info)
-        page.playDrillFeedbackWrong = wrong
-        page.playDrillFeedbackEvLoss = wrong ? info.evLoss : NaN
+        _showFeedback(_verdict(info), wrong, wrong ? info.evLoss : NaN)
         feedbackTimer.restart()
         nextRepTimer.restart()
     }
@@ -165,8 +164,7 @@ QtObject {
         page.playActionLine = steps.join(PlayRules.stepSeparator)
         page.playBoardText = page._boardFromTreeSelections()
         page.playAwaitingUserAction = false
-        page.playLastActionActor = ""
-        page.playLastActionText = ""
+        session.clearBubble()
         session.schedule(0)
     }
 }

@@ -3,6 +3,7 @@
 // on the page, where the table and the log read it; this object owns the flow and its three timers.
 import QtQuick
 import "PlayRules.js" as PlayRules
+import "PlayTexts.js" as PlayTexts
 
 QtObject {
     id: session
@@ -10,7 +11,10 @@ QtObject {
     property var page: null
     property var drill: null
 
-    readonly property int evDecimals: 3
+    // Every field of a log entry, always present, so that list delegates never meet an undefined role.
+    readonly property var logFields: ["time", "board", "role", "oop", "ip", "line", "endedReason", "mistakeActor",
+        "mistakeAction", "correctAction", "chosenActionIndex", "correctActionIndex", "evLoss", "bestEv", "chosenEv",
+        "pot", "investedOop", "investedIp", "isMistake"]
 
     property Timer tickTimer: Timer {
         repeat: false
@@ -46,7 +50,7 @@ QtObject {
         _setSeatCards("IP", [])
     }
 
-    function _clearBubble() {
+    function clearBubble() {
         page.playLastActionActor = ""
         page.playLastActionText = ""
     }
@@ -76,7 +80,7 @@ QtObject {
         page.playHandComplete = false
         page.playActionLine = ""
         _clearCards()
-        _clearBubble()
+        clearBubble()
         drill.clear()
         _clearLastEnd()
         page._playHandComboEvCache = ({})
@@ -110,7 +114,7 @@ QtObject {
         page.playNodeIndex = page.currentNodeIndex
         page.playActionLine = ""
         _clearCards()
-        _clearBubble()
+        clearBubble()
         dealBothSeats(page.currentNodeIndex)
         schedule(0)
     }
@@ -301,7 +305,6 @@ QtObject {
         page._startPlaySessionImpl(role)
     }
 
-    // Every field is always present, so list delegates never meet an undefined role.
     function _logEntry(extra) {
         const meta = page._metaForNode(playNode())
         const entry = {
@@ -337,9 +340,7 @@ QtObject {
     function _logRow(index) {
         const row = page.playHandLog.get(index)
         const entry = {}
-        for (const field of ["time", "board", "role", "oop", "ip", "line", "endedReason", "mistakeActor",
-                             "mistakeAction", "correctAction", "chosenActionIndex", "correctActionIndex", "evLoss",
-                             "bestEv", "chosenEv", "pot", "investedOop", "investedIp", "isMistake"])
+        for (const field of logFields)
             entry[field] = row[field]
         return entry
     }
@@ -360,11 +361,7 @@ QtObject {
     function logFooterText(index) {
         if (index < 0 || index >= page.playHandLog.count)
             return ""
-        const row = page.playHandLog.get(index)
-        if (row.isMistake)
-            return qsTranslate("ResultsPage", "EV -%1").arg(Number(row.evLoss).toFixed(evDecimals))
-        return row.endedReason === "suboptimal" ? qsTranslate("ResultsPage", "EV —")
-                                                : qsTranslate("ResultsPage", "Perfect")
+        return PlayTexts.logFooterText(page.playHandLog.get(index))
     }
 
     function logHeroCards(index) {

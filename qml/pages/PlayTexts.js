@@ -17,6 +17,17 @@ function stackText(meta, seat) {
     return qsTranslate("ResultsPage", "Stack: ") + Math.max(0, stack - invested).toFixed(0)
 }
 
+// "-0.512": a loss as the log and the drill show it.
+function lossText(loss) {
+    return "-" + Number(loss).toFixed(evDecimals)
+}
+
+function logFooterText(row) {
+    if (row.isMistake)
+        return qsTranslate("ResultsPage", "EV %1").arg(lossText(row.evLoss))
+    return row.endedReason === "suboptimal" ? qsTranslate("ResultsPage", "EV —") : qsTranslate("ResultsPage", "Perfect")
+}
+
 // At most two decimals, without trailing zeros: a rake of 0.65 or of 3.
 function _rakeText(rake) {
     return String(Number(rake.toFixed(rakeDecimals)))

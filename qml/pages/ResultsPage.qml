@@ -295,11 +295,7 @@ Item {
     }
 
     function _parseBoardCardsNormalized() {
-        const board = ChanceCards.compactBoard(boardText)
-        const cards = []
-        for (let i = 0; i + 1 < board.length; i += 2)
-            cards.push(board.charAt(i).toUpperCase() + board.charAt(i + 1).toLowerCase())
-        return cards
+        return PlayRules.boardCards(boardText)
     }
 
     function _chanceEntry(deal) {

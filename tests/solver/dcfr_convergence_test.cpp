@@ -215,9 +215,7 @@ TEST(Convergence, PolarizedRiverMatchesTheClosedForm) {
     EXPECT_NEAR(catcher_calls / C, call, 0.02);
 }
 
-struct SolveSnapshot {
-    std::vector<std::vector<float>> regrets;
-    std::vector<std::vector<float>> strategy_sums;
+struct SolveSnapshot : testing::StoredStates {
     float exploitability = 0.0f;
     SeatValues root_values{};
     SeatValues best_values{};
@@ -229,10 +227,7 @@ SolveSnapshot solve_snapshot(Game& game, std::uint32_t iterations, std::uint64_t
     DiscountedCfr cfr(options);
     cfr.solve(game);
     SolveSnapshot snapshot;
-    for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
-        snapshot.regrets.push_back(cfr.node_state(n).regrets);
-        snapshot.strategy_sums.push_back(cfr.node_state(n).strategy_sum);
-    }
+    static_cast<testing::StoredStates&>(snapshot) = testing::stored_states(cfr);
     snapshot.exploitability = cfr.last_exploitability();
     snapshot.root_values = cfr.average_strategy_values(game);
     snapshot.best_values = cfr.best_response_values(game);

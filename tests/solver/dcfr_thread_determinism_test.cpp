@@ -14,9 +14,7 @@
 namespace kelvane {
 namespace {
 
-struct Snapshot {
-    std::vector<std::vector<float>> regrets;
-    std::vector<std::vector<float>> strategy_sums;
+struct Snapshot : testing::StoredStates {
     float exploitability = 0.0f;
     SeatValues average_values{};
     SeatValues best_values{};
@@ -39,10 +37,7 @@ Snapshot solve(Game& game, std::uint32_t iterations, std::uint64_t threads) {
     DiscountedCfr cfr(options);
     cfr.solve(game);
     Snapshot snapshot;
-    for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
-        snapshot.regrets.push_back(cfr.node_state(n).regrets);
-        snapshot.strategy_sums.push_back(cfr.node_state(n).strategy_sum);
-    }
+    static_cast<testing::StoredStates&>(snapshot) = testing::stored_states(cfr);
     snapshot.exploitability = cfr.last_exploitability();
     snapshot.average_values = cfr.average_strategy_values(game);
     snapshot.best_values = cfr.best_response_values(game);

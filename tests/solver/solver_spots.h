@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "poker/card_context.h"
 #include "poker/cards.h"
@@ -78,6 +79,21 @@ struct PolarizedSpot {
         return {"AhKdQcJs9h", "99,43", "88,65:0.001", 100, 100, "100", "", "", ""};
     }
 };
+
+// Every node's regrets and strategy sums as the solver holds them after a solve.
+struct StoredStates {
+    std::vector<std::vector<float>> regrets;
+    std::vector<std::vector<float>> strategy_sums;
+};
+
+inline StoredStates stored_states(const DiscountedCfr& cfr) {
+    StoredStates states;
+    for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
+        states.regrets.push_back(cfr.node_state(n).regrets);
+        states.strategy_sums.push_back(cfr.node_state(n).strategy_sum);
+    }
+    return states;
+}
 
 inline DiscountedCfrOptions quiet_options(std::uint32_t max_iterations, std::uint64_t threads = 1) {
     DiscountedCfrOptions options;
