@@ -54,7 +54,7 @@ struct Nodes {
 };
 
 std::uint64_t child(const kelvane::Game& game, std::uint64_t node, std::string_view type) {
-    if (game.node(node).kind == kelvane::kNodeChance) return game.node(node).children.at(0);
+    if (game.node(node).kind == kelvane::kNodeChance) return game.node(node).children[0];
     const std::vector<std::string> types = kelvane_app::node_action_types(game, node);
     for (std::size_t a = 0; a < types.size(); ++a)
         if (types[a].rfind(type, 0) == 0) return game.node(node).children[a];

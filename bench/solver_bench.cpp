@@ -37,7 +37,12 @@ double triad_bandwidth() {
 
 struct SpotRun {
     std::unique_ptr<Game> game;
-    std::uint64_t cells = 0;        // (decision node, action, hand) triples
+    std::uint64_t cells = 0;  // (decision node, action, hand) triples
+};
+
+// What one summary row's solver holds.
+struct RowSizes {
+    std::uint64_t cells = 0;
     std::uint64_t matrix_bytes = 0;  // regrets + strategy sums as allocated
     std::uint64_t solver_bytes = 0;  // the same plus the node records
 };
@@ -45,12 +50,16 @@ struct SpotRun {
 struct Measure {
     double ms_per_iteration = 0.0;
     double cpu_ms_per_iteration = 0.0;  // all threads; tells a loaded machine from a slow solver
-    SpotRun* spot = nullptr;
+    RowSizes* sizes = nullptr;
 };
 
 double g_bandwidth = 0.0;
 std::map<std::string, std::unique_ptr<SpotRun>> g_spots;
+std::map<std::string, RowSizes> g_rows;
 std::map<std::pair<std::string, int>, Measure> g_measures;
+
+// A row of the summary: the spot, and whether its stores hold 16-bit values.
+std::string row_name(const std::string& spot_name, bool packed) { return packed ? spot_name + "-16bit" : spot_name; }
 
 SpotRun& spot(const std::string& name) {
     std::unique_ptr<SpotRun>& run = g_spots[name];
@@ -66,28 +75,30 @@ SpotRun& spot(const std::string& name) {
     return *run;
 }
 
-void iterate(benchmark::State& state, const std::string& name, int threads) {
+void iterate(benchmark::State& state, const std::string& name, int threads, bool packed) {
     SpotRun& run = spot(name);
     kelvane::DiscountedCfrOptions options;
     options.thread_count = static_cast<std::uint64_t>(threads);
+    options.compress_state = packed;
     DiscountedCfr cfr(options);
+    run.game->set_compress_state(packed);
     cfr.prepare_states(*run.game);
-    run.matrix_bytes = 0;
-    for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
-        const kelvane::NodeState& s = cfr.node_state(n);
-        run.matrix_bytes += (s.regrets.capacity() + s.strategy_sum.capacity()) * sizeof(float);
-    }
-    run.solver_bytes = run.matrix_bytes + cfr.state_count() * sizeof(kelvane::NodeState);
+    RowSizes& row = g_rows[row_name(name, packed)];
+    row.matrix_bytes = cfr.state_bytes();
+    row.solver_bytes = row.matrix_bytes + cfr.node_record_bytes();
+    row.cells = run.cells;
     cfr.iteration(*run.game, 0);  // grows the frames
     std::uint32_t t = 1;
     for (auto _ : state) cfr.iteration(*run.game, t++);
-    state.counters["state_MB"] = static_cast<double>(run.matrix_bytes) / 1e6;
+    state.counters["state_MB"] = static_cast<double>(row.matrix_bytes) / 1e6;
 }
 
-void register_spot(const std::string& name, int iterations) {
+void register_spot(const std::string& name, int iterations, bool packed = false) {
     for (int threads : {1, 2}) {
-        benchmark::RegisterBenchmark(("iteration/" + name + "/threads:" + std::to_string(threads)).c_str(),
-                                     [name, threads](benchmark::State& state) { iterate(state, name, threads); })
+        const std::string title = "iteration/" + row_name(name, packed) + "/threads:" + std::to_string(threads);
+        benchmark::RegisterBenchmark(title.c_str(), [name, threads, packed](benchmark::State& state) {
+            iterate(state, name, threads, packed);
+        })
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime()
             ->MeasureProcessCPUTime()
@@ -107,7 +118,7 @@ public:
             const std::string spot_name = name.substr(first + 1, second - first - 1);
             const int threads = std::stoi(name.substr(name.find("threads:") + 8));
             const double ms = run.GetAdjustedRealTime();  // in the run's unit, milliseconds
-            g_measures[{spot_name, threads}] = {ms, run.GetAdjustedCPUTime(), g_spots[spot_name].get()};
+            g_measures[{spot_name, threads}] = {ms, run.GetAdjustedCPUTime(), &g_rows[spot_name]};
         }
     }
 };
@@ -117,7 +128,7 @@ void print_summary() {
     std::printf("%-8s %7s %10s %10s %10s %10s %10s %9s %9s\n", "spot", "threads", "ms/iter", "cpu ms", "bound ms",
                 "ratio", "speed-up", "state MB", "alloc/8B");
     for (const auto& [key, measure] : g_measures) {
-        const SpotRun& run = *measure.spot;
+        const RowSizes& run = *measure.sizes;
         const double bound_ms = 2.5 * static_cast<double>(run.matrix_bytes) / g_bandwidth * 1e3;
         const Measure& single = g_measures[{key.first, 1}];
         const double speed_up = single.ms_per_iteration / measure.ms_per_iteration;
@@ -138,6 +149,7 @@ int main(int argc, char** argv) {
     register_spot("turn", 40);
     register_spot("default", 3);  // a flop spot of about 1.2 GB of strategy storage
     register_spot("anchor", 3);   // a deeper flop tree with all-ins, about 2.4 s per iteration
+    register_spot("anchor", 3, true);
     SummaryReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     print_summary();

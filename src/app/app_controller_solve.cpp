@@ -3,10 +3,13 @@
 #include <QtDebug>
 #include <algorithm>
 #include <array>
+#include <span>
+#include <string_view>
 
 #include "app/app_controller.h"
 #include "app/app_controller_mailbox.h"
 #include "app/solve_map.h"
+#include "session/result_text.h"
 
 namespace kelvane_app {
 namespace {
@@ -69,6 +72,33 @@ void logSolveRequest(const QVariantMap& cfg) {
 
 QString translated(const char* source) { return QCoreApplication::translate("AppController", source); }
 
+QString qtText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QVariantMap treeNodeMetaOf(const SolveResult& result, const ResultNode& node) {
+    return QVariantMap{{"nodeType", qtText(node_type_text(node))},
+                       {"chanceDeal", qtText(chance_deal_text(node))},
+                       {"player", qtText(player_text(node))},
+                       {"pot", node.pot},
+                       {"effectiveStack", result.effective_stack},
+                       {"investedOop", node.invested_oop},
+                       {"investedIp", node.invested_ip},
+                       {"hasChildren", node.action_count > 0}};
+}
+
+QVariantList treeNodeActionsOf(const SolveResult& result, const ResultNode& node) {
+    const std::span<const ResultAction> nodeActions = node_actions(result, node);
+    QVariantList actions;
+    actions.reserve(static_cast<qsizetype>(nodeActions.size()));
+    for (const ResultAction& action : nodeActions)
+        actions.append(QVariantMap{{"name", QString::fromStdString(result_action_name(result, node, action))},
+                                   {"actionType", QString::fromStdString(result_action_type(result, node, action))},
+                                   {"frequency", static_cast<double>(action.frequency)},
+                                   {"childIndex", action.child_index}});
+    return actions;
+}
+
 }  // namespace
 
 SolveConfig AppController::buildSolveConfig(const QVariantMap& cfg, bool withLocks) const {
@@ -116,8 +146,8 @@ void AppController::startSolveWithConfig(QVariantMap cfg) {
     // reaches this thread.
     markNodeCachesStale();
     // `this` only rides along to the calls that the mailbox delivers while the controller lives.
-    const auto onProgress = [mailbox = m_mailbox, this](const SolveProgress& message) {
-        mailbox->post([this, message] { handleSolveProgress(message); });
+    const auto onProgress = [mailbox = m_mailbox, this](SolveProgress message) {
+        mailbox->post([this, message = std::move(message)] { handleSolveProgress(message); });
     };
     // A second look at the flag once it is down, for a last message handled before it fell.
     const auto onEnd = [mailbox = m_mailbox, this] { mailbox->post([this] { lowerRunningIfSessionEnded(); }); };
@@ -250,22 +280,8 @@ void AppController::publishResult(const SolveResult& result) {
     m_treeNodeMeta.reserve(static_cast<qsizetype>(result.nodes.size()));
     m_treeNodeActions.reserve(static_cast<qsizetype>(result.nodes.size()));
     for (const ResultNode& node : result.nodes) {
-        m_treeNodeMeta.append(QVariantMap{{"nodeType", QString::fromStdString(node.node_type)},
-                                          {"chanceDeal", QString::fromStdString(node.chance_deal)},
-                                          {"player", QString::fromStdString(node.player)},
-                                          {"pot", node.pot},
-                                          {"effectiveStack", result.effective_stack},
-                                          {"investedOop", node.invested_oop},
-                                          {"investedIp", node.invested_ip},
-                                          {"hasChildren", !node.actions.empty()}});
-        QVariantList actions;
-        actions.reserve(static_cast<qsizetype>(node.actions.size()));
-        for (const ResultAction& action : node.actions)
-            actions.append(QVariantMap{{"name", QString::fromStdString(action.name)},
-                                       {"actionType", QString::fromStdString(action.action_type)},
-                                       {"frequency", static_cast<double>(action.frequency)},
-                                       {"childIndex", action.child_index}});
-        m_treeNodeActions.append(actions);
+        m_treeNodeMeta.append(treeNodeMetaOf(result, node));
+        m_treeNodeActions.append(treeNodeActionsOf(result, node));
     }
     m_resultsSummary = summary;
 }

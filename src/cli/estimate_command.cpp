@@ -7,10 +7,12 @@
 #include <exception>
 #include <string>
 
-#include "app/solve_map.h"
 #include "cli/commands.h"
+#include "cli/memory_limit.h"
+#include "cli/spot_arguments.h"
 #include "cli/spot_file.h"
-#include "session/memory_estimate.h"
+#include "cli/spot_matchup.h"
+#include "session/solve_setup.h"
 
 namespace kelvane_cli {
 namespace {
@@ -23,6 +25,7 @@ QJsonObject estimate_json(const kelvane_app::SolveMemoryEstimate& estimate) {
         {"card_context_bytes", bytes(estimate.card_context_bytes)},
         {"tree_bytes", bytes(estimate.tree_bytes)},
         {"state_bytes", bytes(estimate.state_bytes)},
+        {"result_bytes", bytes(estimate.result_bytes)},
         {"node_count", bytes(estimate.node_count)},
         {"decision_node_count", bytes(estimate.decision_node_count)},
         {"oop_hands", bytes(estimate.oop_hands)},
@@ -38,20 +41,23 @@ void print_json(const QJsonObject& object) {
 }  // namespace
 
 int run_estimate(const Arguments& args) {
-    if (args.size() != 1) throw UsageError{"estimate takes one spot file"};
-    kelvane_app::SolveConfig config;
+    const SpotArguments parsed = parse_spot_arguments(args, "estimate");
+    kelvane_app::SolveMemoryEstimate estimate;
     try {
-        config = kelvane_app::solveConfigFromMap(read_spot_file(QString::fromStdString(args[0])));
+        const kelvane_app::SolveConfig config = read_spot_config(QString::fromStdString(parsed.spot_path));
+        // The estimate's own reading of the texts, so that a bad one fails in the estimate's words.
+        const kelvane_app::SolveSetup setup =
+            kelvane_app::make_solve_setup(config, kelvane_app::SizingErrors::unlabelled);
+        check_matchup(setup, config);
+        estimate = checked_estimate(config, setup, parsed.limit);
     } catch (const std::exception& error) {
-        print_json({{"ok", false}, {"error", QString::fromStdString(error.what())}});
+        QJsonObject json = estimate_json({});
+        json.insert("error", QString::fromStdString(failure_text(error)));
+        print_json(json);
         return kExitFailure;
     }
-    std::string error;
-    const kelvane_app::SolveMemoryEstimate estimate = kelvane_app::estimate_solve_memory(config, &error);
-    QJsonObject json = estimate_json(estimate);
-    if (!estimate.valid) json.insert("error", QString::fromStdString(error));
-    print_json(json);
-    return estimate.valid ? kExitOk : kExitFailure;
+    print_json(estimate_json(estimate));
+    return kExitOk;
 }
 
 }  // namespace kelvane_cli

@@ -1,5 +1,6 @@
 // eval: strength and category of seven cards, from the arguments or line by line from standard input.
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <charconv>
@@ -10,6 +11,7 @@
 #include <string_view>
 
 #include "cli/commands.h"
+#include "poker/cards.h"
 #include "poker/hand_evaluator.h"
 
 namespace kelvane_cli {
@@ -35,8 +37,13 @@ EvalResult evaluate_text(std::string_view text) {
     if (length == 0) return {0, true};
     if (length != kHandTextLength) throw std::invalid_argument(kCountError);
     std::array<kelvane::Card, 7> cards{};
-    for (std::size_t i = 0; i < cards.size(); ++i)
+    for (std::size_t i = 0; i < cards.size(); ++i) {
         cards[i] = kelvane::parse_card(std::string_view(compact.data() + 2 * i, 2));
+        // Seven cards from one deck: a repeated card has no strength.
+        if (std::find(cards.begin(), cards.begin() + i, cards[i]) != cards.begin() + i)
+            throw std::invalid_argument(kelvane::card_to_string(static_cast<std::int8_t>(cards[i])) +
+                                        " appears twice; the seven cards must be distinct");
+    }
     return {kelvane::evaluate_seven(cards), false};
 }
 

@@ -4,13 +4,14 @@
 
 #include <QJsonArray>
 
-#include <algorithm>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "session/action_stats.h"
 #include "session/bucket_table.h"
 #include "session/hand_strategy.h"
+#include "session/result_text.h"
 
 namespace kelvane_cli {
 namespace {
@@ -33,11 +34,15 @@ std::vector<std::string> line_actions(const std::string& line) {
     }
 }
 
-std::optional<std::uint32_t> child_named(const kelvane_app::ResultNode& node, const std::string& name) {
-    const auto action = std::find_if(node.actions.begin(), node.actions.end(),
-                                     [&](const kelvane_app::ResultAction& a) { return a.name == name; });
-    if (action == node.actions.end()) return std::nullopt;
-    return action->child_index;
+std::optional<std::uint32_t> child_named(const kelvane_app::SolveResult& result,
+                                         const kelvane_app::ResultNode& node, const std::string& name) {
+    for (const kelvane_app::ResultAction& action : kelvane_app::node_actions(result, node))
+        if (kelvane_app::result_action_name(result, node, action) == name) return action.child_index;
+    return std::nullopt;
+}
+
+QString text_value(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 template <typename Number>
@@ -99,15 +104,15 @@ QJsonObject node_json(const kelvane_app::SolveResult& result, std::uint32_t inde
     QJsonArray names;
     QJsonArray types;
     QJsonArray frequencies;
-    for (const kelvane_app::ResultAction& action : node.actions) {
-        names.append(QString::fromStdString(action.name));
-        types.append(QString::fromStdString(action.action_type));
+    for (const kelvane_app::ResultAction& action : kelvane_app::node_actions(result, node)) {
+        names.append(QString::fromStdString(kelvane_app::result_action_name(result, node, action)));
+        types.append(QString::fromStdString(kelvane_app::result_action_type(result, node, action)));
         frequencies.append(static_cast<double>(action.frequency));
     }
     return {
         {"node_index", static_cast<qint64>(index)},
-        {"node_type", QString::fromStdString(node.node_type)},
-        {"player", QString::fromStdString(node.player)},
+        {"node_type", text_value(kelvane_app::node_type_text(node))},
+        {"player", text_value(kelvane_app::player_text(node))},
         {"pot", node.pot},
         {"action_names", names},
         {"action_types", types},
@@ -122,7 +127,7 @@ QJsonObject line_json(const kelvane_app::SolveSession& session, const kelvane_ap
     if (result.nodes.empty()) return {{"error", "The result holds no tree"}};
     std::uint32_t index = 0;
     for (const std::string& name : line_actions(line)) {
-        const std::optional<std::uint32_t> child = child_named(result.nodes[index], name);
+        const std::optional<std::uint32_t> child = child_named(result, result.nodes[index], name);
         if (!child || *child >= result.nodes.size())
             return {{"error", QString::fromStdString("Action '" + name + "' not found at node " +
                                                      std::to_string(index))}};

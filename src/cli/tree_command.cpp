@@ -1,7 +1,5 @@
 // orvanthis-cli tree SPOT.json: builds the betting tree of a spot file and prints its size.
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QString>
 
 #include <array>
@@ -11,9 +9,12 @@
 #include <exception>
 #include <string>
 
-#include "app/solve_map.h"
 #include "cli/commands.h"
+#include "cli/json_text.h"
+#include "cli/memory_limit.h"
+#include "cli/spot_arguments.h"
 #include "cli/spot_file.h"
+#include "cli/spot_matchup.h"
 #include "poker/card_context.h"
 #include "session/solve_setup.h"
 #include "tree/action_plan.h"
@@ -43,18 +44,15 @@ TreeCounts count_nodes(const kelvane::ActionPlan& plan) {
     return counts;
 }
 
-std::string json_string(const std::string& text) {
-    const QByteArray array = QJsonDocument(QJsonArray{QString::fromStdString(text)}).toJson(QJsonDocument::Compact);
-    return array.mid(1, array.size() - 2).toStdString();  // the one element without its brackets
-}
-
 int print_failure(const std::string& message) {
-    std::printf("{\"ok\": false, \"error\": %s}\n", json_string(message).c_str());
+    std::printf("{\"ok\": false, \"error\": %s}\n", json_quoted(message).c_str());
     return kExitFailure;
 }
 
-int print_tree(const QVariantMap& spot) {
-    const kelvane_app::SolveSetup setup = kelvane_app::make_solve_setup(kelvane_app::solveConfigFromMap(spot));
+int print_tree(const kelvane_app::SolveConfig& config, const MemoryLimit& limit) {
+    const kelvane_app::SolveSetup setup = kelvane_app::make_solve_setup(config);
+    check_matchup(setup, config);
+    checked_estimate(config, setup, limit);
     const kelvane::CardContext cards(setup.board, setup.ranges);
     const auto start = std::chrono::steady_clock::now();
     const kelvane::ActionPlan plan(setup.game, cards);
@@ -82,11 +80,11 @@ int print_tree(const QVariantMap& spot) {
 }  // namespace
 
 int run_tree(const Arguments& args) {
-    if (args.size() != 1) throw UsageError{"tree takes one spot file"};
+    const SpotArguments parsed = parse_spot_arguments(args, "tree");
     try {
-        return print_tree(read_spot_file(QString::fromStdString(args[0])));
+        return print_tree(read_spot_config(QString::fromStdString(parsed.spot_path)), parsed.limit);
     } catch (const std::exception& error) {
-        return print_failure(error.what());
+        return print_failure(failure_text(error));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
-// How much memory a solve of a configuration will take, counted off a real deal and a real tree.
+// How much memory a solve of a configuration will take, counted off a real deal and a real tree:
+// everything a solve holds at its peak, when the snapshot is taken beside the live game and solver.
 
 #include <cstdint>
 #include <string>
@@ -13,6 +14,7 @@ struct SolveMemoryEstimate {
     std::uint64_t card_context_bytes = 0;
     std::uint64_t tree_bytes = 0;
     std::uint64_t state_bytes = 0;  // regrets and strategy sums
+    std::uint64_t result_bytes = 0;  // the finished solve's snapshot of the tree
     std::uint64_t node_count = 0;
     std::uint64_t decision_node_count = 0;  // decision nodes with at least one action
     std::uint64_t oop_hands = 0;

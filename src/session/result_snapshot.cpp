@@ -12,56 +12,48 @@ namespace {
 
 constexpr std::uint64_t kRoot = 0;
 
-const char* node_type_text(std::uint8_t kind) {
-    switch (kind) {
-        case kelvane::kNodeDecision: return "decision";
-        case kelvane::kNodeChance: return "chance";
-        default: return "terminal";
-    }
-}
-
-const char* player_text(const kelvane::GameNode& node) {
-    if (node.kind != kelvane::kNodeDecision) return "";
-    return node.seat == kelvane::kSeatOop ? "OOP" : "IP";
+// As the decision node's seat: any seat but OOP acts as IP.
+std::uint8_t player_of(const kelvane::GameNode& node) {
+    if (node.kind != kelvane::kNodeDecision) return kNoPlayer;
+    return node.seat == kelvane::kSeatOop ? kelvane::kSeatOop : kelvane::kSeatIp;
 }
 
 // A chance node deals the first board slot that is still empty.
-const char* chance_deal_text(const kelvane::GameNode& node) {
-    if (node.kind != kelvane::kNodeChance) return "";
-    if (node.turn_card >= kelvane::kNoCard) return "turn";
-    if (node.river_card >= kelvane::kNoCard) return "river";
-    return "";
+std::uint8_t chance_deal_of(const kelvane::GameNode& node) {
+    if (node.kind != kelvane::kNodeChance) return kNoDeal;
+    if (node.turn_card >= kelvane::kNoCard) return kelvane::kStreetTurn;
+    if (node.river_card >= kelvane::kNoCard) return kelvane::kStreetRiver;
+    return kNoDeal;
 }
 
 float frequency_at(const std::vector<float>& strategy, std::size_t action) {
     return action < strategy.size() ? strategy[action] : 0.0f;
 }
 
-ResultNode snapshot_node(const kelvane::Game& game, kelvane::DiscountedCfr& solver, std::uint64_t index,
-                         std::int32_t starting_pot) {
+std::size_t action_total(const kelvane::Game& game) {
+    std::size_t total = 0;
+    for (std::uint64_t index = 0; index < game.node_count(); ++index)
+        total += game.node(index).actions.size();
+    return total;
+}
+
+// Appends the node's record and its actions; `frequencies` is scratch space kept across nodes.
+void snapshot_node(SolveResult& result, const kelvane::Game& game, kelvane::DiscountedCfr& solver,
+                   std::uint64_t index, std::vector<float>& frequencies) {
     const kelvane::GameNode& node = game.node(index);
-    ResultNode record;
-    record.node_type = node_type_text(node.kind);
-    record.player = player_text(node);
-    record.chance_deal = chance_deal_text(node);
-    record.pot = node.pot;
-    record.invested_oop = node.invested[kelvane::kSeatOop];
-    record.invested_ip = node.invested[kelvane::kSeatIp];
+    result.nodes.push_back({node.kind, chance_deal_of(node), player_of(node), node.pot,
+                            node.invested[kelvane::kSeatOop], node.invested[kelvane::kSeatIp],
+                            static_cast<std::uint32_t>(result.actions.size()),
+                            static_cast<std::uint32_t>(node.actions.size())});
 
     const std::vector<float> strategy = solver.average_strategy(index);
-    const double base = node_percent_base(node.pot, starting_pot);
-    std::vector<float> frequencies;
-    frequencies.reserve(node.actions.size());
-    record.actions.reserve(node.actions.size());
+    frequencies.clear();
+    for (std::size_t a = 0; a < node.actions.size(); ++a) frequencies.push_back(frequency_at(strategy, a));
+    clean_frequency_row(frequencies);
     for (std::size_t a = 0; a < node.actions.size(); ++a) {
         const std::uint64_t child = a < node.children.size() ? node.children[a] : 0;
-        record.actions.push_back({action_name(node.actions[a], base), action_type_text(node.actions[a], base), 0.0f,
-                                  static_cast<std::uint32_t>(child)});
-        frequencies.push_back(frequency_at(strategy, a));
+        result.actions.push_back({node.actions[a], frequencies[a], static_cast<std::uint32_t>(child)});
     }
-    clean_frequency_row(frequencies);
-    for (std::size_t a = 0; a < frequencies.size(); ++a) record.actions[a].frequency = frequencies[a];
-    return record;
 }
 
 }  // namespace
@@ -79,13 +71,14 @@ void fill_root_actions(SolveResult& result, const kelvane::Game& game, kelvane::
     clean_frequency_row(result.root_action_frequencies);
 }
 
-std::vector<ResultNode> snapshot_nodes(const kelvane::Game& game, kelvane::DiscountedCfr& solver,
-                                       std::int32_t starting_pot) {
-    std::vector<ResultNode> nodes;
-    nodes.reserve(game.node_count());
+void snapshot_nodes(SolveResult& result, const kelvane::Game& game, kelvane::DiscountedCfr& solver) {
+    result.nodes.clear();
+    result.actions.clear();
+    result.nodes.reserve(game.node_count());
+    result.actions.reserve(action_total(game));
+    std::vector<float> frequencies;
     for (std::uint64_t index = 0; index < game.node_count(); ++index)
-        nodes.push_back(snapshot_node(game, solver, index, starting_pot));
-    return nodes;
+        snapshot_node(result, game, solver, index, frequencies);
 }
 
 }  // namespace kelvane_app

@@ -1,5 +1,6 @@
 #pragma once
 // The plain picture of a finished solve: every node's shape, pot and average action frequencies.
+// Its texts are derived from it by result_text.h.
 
 #include <cstdint>
 #include <vector>
@@ -14,8 +15,7 @@ namespace kelvane_app {
 void fill_root_actions(SolveResult& result, const kelvane::Game& game, kelvane::DiscountedCfr& solver,
                        std::int32_t starting_pot);
 
-// One record for each node of the tree, in index order.
-std::vector<ResultNode> snapshot_nodes(const kelvane::Game& game, kelvane::DiscountedCfr& solver,
-                                       std::int32_t starting_pot);
+// One record for each node of the tree, in index order, and their actions after one another.
+void snapshot_nodes(SolveResult& result, const kelvane::Game& game, kelvane::DiscountedCfr& solver);
 
 }  // namespace kelvane_app

@@ -23,7 +23,7 @@ std::vector<NodeStep> parent_table(const Game& game) {
     if (parents.empty()) return parents;
     parents[kRoot] = {kRoot, 0};
     for (std::uint64_t i = 0; i < game.node_count(); ++i) {
-        const std::vector<std::uint64_t>& children = game.node(i).children;
+        const std::span<const std::uint64_t> children = game.node(i).children;
         for (std::uint64_t k = 0; k < children.size(); ++k) {
             const std::uint64_t child = children[k];
             if (child < parents.size() && parents[child].node == kUnset) parents[child] = {i, k};

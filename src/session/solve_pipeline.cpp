@@ -84,19 +84,25 @@ std::optional<SolvedGame> run_solve_pipeline(const SolveConfig& config, const ke
     send(on_progress, 0.0, kStatusStartingSolver);
     solver->solve(*game);
     // A cancel that arrives after this test is ignored: the run finishes normally.
-    if (cancel_requested.load()) return std::nullopt;
+    const bool cancelled = cancel_requested.load();
 
+    // A cancelled run still reports what its iterations reached, but without the finalizing texts,
+    // which the pages take for a run about to finish.
+    const ProgressCallback no_progress;
+    const ProgressCallback& finalizing = cancelled ? no_progress : on_progress;
     const double progress = capped_progress(solver->iterations(), config.max_iterations);
-    send(on_progress, progress, kStatusComputingResults);
+    send(finalizing, progress, kStatusComputingResults);
     result.iterations = solver->iterations();
     result.exploitability = solver->last_exploitability();
+    result.exploitability_measured = solver->exploitability_measured();
     const kelvane::SeatValues evs = solver->average_strategy_values(*game);
     result.ev_oop = evs[kelvane::kSeatOop];
     result.ev_ip = evs[kelvane::kSeatIp];
     fill_root_actions(result, *game, *solver, config.starting_pot);
 
-    send(on_progress, progress, kStatusBuildingSnapshot);
-    result.nodes = snapshot_nodes(*game, *solver, config.starting_pot);
+    send(finalizing, progress, kStatusBuildingSnapshot);
+    snapshot_nodes(result, *game, *solver);
+    if (cancelled) return std::nullopt;
     return SolvedGame{std::move(game), std::move(solver)};
 }
 

@@ -17,7 +17,8 @@
 
 namespace kelvane_app {
 
-using ProgressCallback = std::function<void(const SolveProgress&)>;
+// Each message is handed over, so a reader can keep the result without copying the tree.
+using ProgressCallback = std::function<void(SolveProgress)>;
 
 // A finished game with the solver that holds its strategies.
 struct SolvedGame {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "session/detached_threads.h"
+#include "session/solve_validation.h"
 
 namespace kelvane_app {
 
@@ -49,7 +50,7 @@ void run(SolveSessionState& state, const SolveConfig& config, const ProgressCall
     SolveResult result;
     result.board = config.board;
     try {
-        const kelvane::BoardCards board = kelvane::parse_board_text(config.board);
+        const kelvane::BoardCards board = validate_solve_config(config);
         std::optional<SolvedGame> solved =
             run_solve_pipeline(config, board, result, on_progress, state.cancel_requested);
         if (solved) {
@@ -57,7 +58,7 @@ void run(SolveSessionState& state, const SolveConfig& config, const ProgressCall
             result.success = true;
             send_result(on_progress, 1.0, kStatusDone, std::move(result));
         } else {
-            // The iterations done are lost: a cancelled run leaves nothing to query.
+            // The result holds what the iterations reached, but nothing is published to query.
             result.success = false;
             result.error = kStatusCancelled;
             send_result(on_progress, 0.0, kStatusCancelled, std::move(result));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "session/solve_validation.h"
 #include "tree/sizing_profile.h"
 
 namespace kelvane_app {
@@ -58,7 +59,7 @@ kelvane::GameConfig make_game_config(const SolveConfig& config, SizingErrors err
 
 SolveSetup make_solve_setup(const SolveConfig& config, SizingErrors errors) {
     SolveSetup setup;
-    setup.board = kelvane::parse_board_text(config.board);
+    setup.board = validate_solve_config(config);
     setup.ranges[0] = kelvane::parse_range_or_percent(config.oop_range);
     setup.ranges[1] = kelvane::parse_range_or_percent(config.ip_range);
     setup.game = make_game_config(config, errors);

@@ -24,7 +24,8 @@ enum class SizingErrors { labelled, unlabelled };
 // "flop" 0, "turn" 1, "river" 2, compared exactly; anything else is the flop.
 std::uint8_t starting_street_number(std::string_view name);
 
-// Board, then OOP and IP range, then the game description with all three streets' sizing.
+// Board and the limits of the numbers, then OOP and IP range, then the game description with all three
+// streets' sizing.
 SolveSetup make_solve_setup(const SolveConfig& config, SizingErrors errors = SizingErrors::labelled);
 
 kelvane::GameConfig make_game_config(const SolveConfig& config, SizingErrors errors = SizingErrors::labelled);

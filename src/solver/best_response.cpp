@@ -1,8 +1,6 @@
 // The read-only walks: values under the average strategy, best-response values, and the measures on them.
 
 #include <algorithm>
-#include <atomic>
-#include <thread>
 
 #include "solver/chance_sum.h"
 #include "solver/discounted_cfr.h"
@@ -82,7 +80,7 @@ void DiscountedCfr::compute_cfvalue_recursive(const Game& game, std::uint64_t no
         value_chance(ValueWalk::average, game, node, seat, opponent_reach, out, depth, scratch);
         return;
     }
-    NodeState& state = states[node];
+    NodeState& state = node_state(node);
     if (state.seat != seat) {
         value_opponent(ValueWalk::average, game, node, seat, opponent_reach, out, depth, scratch);
         return;
@@ -95,14 +93,14 @@ void DiscountedCfr::compute_cfvalue_recursive(const Game& game, std::uint64_t no
     }
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         compute_cfvalue_recursive(game, n.children[a], seat, opponent_reach, child_values.subspan(a * hands, hands),
                                   store, depth + 1, stack);
     });
     // Locks need no look-up here: the strategy sums already accumulated the overlaid strategy.
     std::span<float> p = grow_buffer(frame.strategy, actions * hands);
     std::span<float> denom = grow_buffer(frame.strategy_denom, hands);
-    regret_match(strategy_sum_of(state), p, denom, actions, hands);
+    regret_match(strategy_sum_rows(state, frame.decoded_sums), p, denom, actions, hands);
     expected_values(out, child_values.data(), p.data(), actions);
 }
 
@@ -122,7 +120,7 @@ void DiscountedCfr::compute_best_cfvalue_recursive(const Game& game, std::uint64
         value_chance(ValueWalk::best_response, game, node, seat, opponent_reach, out, depth, scratch);
         return;
     }
-    const NodeState& state = states[node];
+    const NodeState& state = node_state(node);
     if (state.seat != seat) {
         value_opponent(ValueWalk::best_response, game, node, seat, opponent_reach, out, depth, scratch);
         return;
@@ -135,11 +133,11 @@ void DiscountedCfr::compute_best_cfvalue_recursive(const Game& game, std::uint64
     }
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         compute_best_cfvalue_recursive(game, n.children[a], seat, opponent_reach,
                                        child_values.subspan(a * hands, hands), depth + 1, stack);
     });
-    best_values(game.locking_strategy(node), child_values.data(), actions, out);
+    best_values(game.locking_strategy(n), child_values.data(), actions, out);
 }
 
 void DiscountedCfr::value_walk(ValueWalk walk, const Game& game, std::uint64_t node, std::uint8_t seat,
@@ -167,7 +165,7 @@ void DiscountedCfr::value_chance(ValueWalk walk, const Game& game, std::uint64_t
     scale_row(reach.data(), opponent_reach.data(), k, reach.size());
     std::span<float> child_values = frame.grow_child_values(actions, hands);
 
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         value_walk(walk, game, n.children[a], seat, reach, child_values.subspan(a * hands, hands), depth + 1, stack);
     });
     sum_chance_children(game, node, seat, frame, child_values, actions, out);
@@ -182,7 +180,7 @@ void DiscountedCfr::value_opponent(ValueWalk walk, const Game& game, std::uint64
         value_walk(walk, game, n.children[0], seat, opponent_reach, out, depth + 1, scratch);
         return;
     }
-    NodeState& state = states[node];
+    NodeState& state = node_state(node);
     const std::size_t reach_size = opponent_reach.size();
     if (state.num_hands != reach_size) {
         zero(out);
@@ -192,14 +190,14 @@ void DiscountedCfr::value_opponent(ValueWalk walk, const Game& game, std::uint64
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> p = grow_buffer(frame.other_strategy, actions * reach_size);
     std::span<float> denom = grow_buffer(frame.other_denom, reach_size);
-    regret_match(strategy_sum_of(state), p, denom, actions, reach_size);
+    regret_match(strategy_sum_rows(state, frame.decoded_sums), p, denom, actions, reach_size);
 
     // One reach row for each action, so that the actions can be walked side by side.
     std::span<float> reach = grow_buffer(frame.child_reach, actions * reach_size);
     for (std::size_t a = 0; a < actions; ++a)
         multiply_row(reach.data() + a * reach_size, p.data() + a * reach_size, opponent_reach.data(), reach_size);
     std::span<float> child_values = frame.grow_child_values(actions, hands);
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         value_walk(walk, game, n.children[a], seat, reach.subspan(a * reach_size, reach_size),
                    child_values.subspan(a * hands, hands), depth + 1, stack);
     });
@@ -267,7 +265,7 @@ std::vector<float> DiscountedCfr::node_values_with_reach(const Game& game, std::
 NodeAndChildValues DiscountedCfr::node_and_child_values_with_reach(const Game& game, std::uint64_t node,
                                                                    std::uint8_t seat, std::span<const float> reach) {
     const std::size_t hands = game.hand_count(seat);
-    if (hands == 0 || node >= game.node_count() || node >= states.size()) return {};
+    if (hands == 0 || node >= game.node_count() || node >= state_count()) return {};
     const GameNode& n = game.node(node);
     const std::size_t actions = n.actions.size();
     if (n.children.size() < actions) return {};
@@ -275,37 +273,34 @@ NodeAndChildValues DiscountedCfr::node_and_child_values_with_reach(const Game& g
     walk_children(game, std::span(n.children).first(actions), seat, reach, values.children);
 
     // The same guards and the same sum as the walk at a node of the seat to act.
-    NodeState& state = states[node];
+    NodeState& state = node_state(node);
     if (n.kind != kNodeDecision || actions == 0 || state.seat != seat || state.num_hands != hands) {
         values.node = node_values_with_reach(game, node, seat, reach);
         return values;
     }
     std::vector<float> p(actions * hands);
     std::vector<float> denom(hands);
-    regret_match(strategy_sum_of(state), p, denom, actions, hands);
+    std::vector<float> buffer;
+    regret_match(strategy_sum_rows(state, buffer), p, denom, actions, hands);
     expected_values(values.node, values.children.data(), p.data(), actions);
     return values;
 }
 
-// Each thread takes the next child as it finishes one, since sibling subtrees differ widely in size; a
-// chance node below still fans out to the pool. Each thread keeps its own scratch.
+// Chunks of one child each go to the pool, since sibling subtrees differ widely in size; a large node
+// below still fans out. Siblings that share a subtree are walked in turn.
 void DiscountedCfr::walk_children(const Game& game, std::span<const std::uint64_t> children, std::uint8_t seat,
                                   std::span<const float> reach, std::span<float> out) {
     const std::size_t hands = children.empty() ? 0 : out.size() / children.size();
-    std::atomic<std::size_t> next{0};
-    const auto walk = [&] {
-        ScratchStack walk_scratch;
-        for (std::size_t a = next++; a < children.size(); a = next++)
+    const auto walk = [&](std::uint64_t begin, std::uint64_t end) {
+        ScratchLease lease;
+        for (std::uint64_t a = begin; a < end; ++a)
             compute_cfvalue_recursive(game, children[a], seat, reach, out.subspan(a * hands, hands), false, 0,
-                                      walk_scratch);
+                                      lease.stack());
     };
-    const std::size_t walkers = children_distinct(children) ? std::min<std::size_t>(
-                                                         std::max(1u, std::thread::hardware_concurrency()),
-                                                         children.size())
-                                                   : 1;
-    std::vector<std::jthread> helpers;
-    for (std::size_t i = 1; i < walkers; ++i) helpers.emplace_back(walk);
-    walk();
+    if (children_distinct(children))
+        parallel_for(children.size(), walk);
+    else
+        walk(0, children.size());
 }
 
 }  // namespace kelvane

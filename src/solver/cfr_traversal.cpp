@@ -7,7 +7,6 @@
 #include "solver/node_locks.h"
 #include "solver/regret_matching.h"
 #include "solver/row_kernels.h"
-#include "solver/state_packing.h"
 
 namespace kelvane {
 
@@ -35,7 +34,7 @@ void DiscountedCfr::solve_recursive(const Game& game, std::uint64_t node, std::u
     }
     if (n.kind == kNodeChance) {
         solve_chance(game, node, seat, opponent_reach, out, first_action, depth, scratch);
-    } else if (states[node].seat != seat) {
+    } else if (node_state(node).seat != seat) {
         solve_opponent(game, node, seat, opponent_reach, out, first_action, depth, scratch);
     } else {
         solve_own(game, node, seat, opponent_reach, out, first_action, depth, scratch);
@@ -58,7 +57,7 @@ void DiscountedCfr::solve_chance(const Game& game, std::uint64_t node, std::uint
     scale_row(reach.data(), opponent_reach.data(), k, reach.size());
     std::span<float> child_values = frame.grow_child_values(actions, hands);
 
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         solve_recursive(game, n.children[a], seat, reach, child_values.subspan(a * hands, hands),
                         child_first_action(first_action, a), depth + 1, stack);
     });
@@ -75,7 +74,7 @@ void DiscountedCfr::solve_opponent(const Game& game, std::uint64_t node, std::ui
                         depth + 1, scratch);
         return;
     }
-    NodeState& state = states[node];
+    NodeState& state = node_state(node);
     const std::size_t reach_size = opponent_reach.size();
     if (state.num_hands != reach_size) {
         zero(out);
@@ -85,8 +84,8 @@ void DiscountedCfr::solve_opponent(const Game& game, std::uint64_t node, std::ui
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> strategy = grow_buffer(frame.other_strategy, actions * reach_size);
     std::span<float> denom = grow_buffer(frame.other_denom, reach_size);
-    regret_match(regrets_of(state), strategy, denom, actions, reach_size);
-    overlay_lock(game.locking_strategy(node), strategy);
+    regret_match(regret_rows(state, frame.decoded_regrets), strategy, denom, actions, reach_size);
+    overlay_lock(game.locking_strategy(n), strategy);
 
     std::span<float> child_reach = grow_buffer(frame.child_reach, actions * reach_size);
     for (std::size_t a = 0; a < actions; ++a) {
@@ -94,7 +93,7 @@ void DiscountedCfr::solve_opponent(const Game& game, std::uint64_t node, std::ui
                      reach_size);
     }
     std::span<float> action_values = grow_buffer(frame.action_values, actions * hands);
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         solve_recursive(game, n.children[a], seat, child_reach.subspan(a * reach_size, reach_size),
                         action_values.subspan(a * hands, hands), child_first_action(first_action, a), depth + 1,
                         stack);
@@ -109,34 +108,32 @@ void DiscountedCfr::solve_own(const Game& game, std::uint64_t node, std::uint8_t
     const GameNode& n = game.node(node);
     const std::size_t actions = n.actions.size();
     const std::size_t hands = out.size();
-    NodeState& state = states[node];
+    NodeState& state = node_state(node);
     if (state.num_hands != hands) {
         zero(out);
         return;
     }
-    std::vector<float>& regrets = regrets_of(state);
-    std::vector<float>& strategy_sum = strategy_sum_of(state);
     ScratchFrame& frame = scratch.frame(depth);
     std::span<float> action_values = grow_buffer(frame.action_values, actions * hands);
-    for_each_child(node, actions, hands, scratch, [&](std::uint64_t a, ScratchStack& stack) {
+    for_each_child(node, actions, seat, scratch, [&](std::uint64_t a, ScratchStack& stack) {
         solve_recursive(game, n.children[a], seat, opponent_reach, action_values.subspan(a * hands, hands),
                         child_first_action(first_action, a), depth + 1, stack);
     });
 
     // Formed after the recursion, which touches only other nodes' states.
+    const std::span<float> regrets = regret_rows(state, frame.decoded_regrets);
+    const std::span<float> strategy_sum = strategy_sum_rows(state, frame.decoded_sums);
     std::span<float> strategy = grow_buffer(frame.strategy, actions * hands);
     std::span<float> denom = grow_buffer(frame.strategy_denom, hands);
     regret_match(regrets, strategy, denom, actions, hands);
-    const bool locked = overlay_lock(game.locking_strategy(node), strategy);
+    const bool locked = overlay_lock(game.locking_strategy(n), strategy);
 
     weighted_rows(out.data(), strategy.data(), action_values.data(), actions, hands);
     discount_strategy(strategy_sum.data(), strategy.data(), gamma_t, actions * hands);
     // One lock freezes the regrets of every hand of the node.
     if (!locked) update_regrets(regrets.data(), action_values.data(), out.data(), alpha_t, beta_t, actions, hands);
-    if (compress_state) {
-        if (!locked) pack_regrets(state);
-        pack_strategy_sum(state);
-    }
+    if (!locked) keep_regrets(state, regrets);
+    keep_strategy_sums(state, strategy_sum);
 }
 
 }  // namespace kelvane

@@ -11,6 +11,7 @@
 #include "solver/game.h"
 #include "solver/node_state.h"
 #include "solver/scratch_stack.h"
+#include "solver/state_store.h"
 #include "solver/worker_pool.h"
 
 namespace kelvane {
@@ -48,14 +49,28 @@ public:
 
     std::uint32_t iterations() const { return iterations_done; }
     float last_exploitability() const { return exploitability; }
+    // False until an iteration of the last solve measured it; the value above is then 0.
+    bool exploitability_measured() const { return exploitability_known; }
     std::uint64_t workers() const { return worker_count; }
 
-    std::uint64_t state_count() const { return states.size(); }
-    const NodeState& node_state(std::uint64_t node) const { return states[node]; }
-    NodeState& node_state(std::uint64_t node) { return states[node]; }
-    // The float matrices of a node, unpacked first where state packing left them empty.
-    std::vector<float>& regrets_of(NodeState& state);
-    std::vector<float>& strategy_sum_of(NodeState& state);
+    // One state for each node; nodes other than decisions with actions share one inactive state.
+    std::uint64_t state_count() const { return state_of.size(); }
+    const NodeState& node_state(std::uint64_t node) const {
+        return state_of[node] == kNoState ? inactive_state : states[state_of[node]];
+    }
+    NodeState& node_state(std::uint64_t node) {
+        return state_of[node] == kNoState ? inactive_state : states[state_of[node]];
+    }
+    // A node's matrices as floats (decoded from 16 bits where stored so); empty for an inactive or
+    // unknown node.
+    std::vector<float> regrets_of(std::uint64_t node) const;
+    std::vector<float> strategy_sum_of(std::uint64_t node) const;
+    // What the regret and strategy-sum stores hold.
+    std::uint64_t state_bytes() const;
+    // What the solver keeps for every node besides the stores: its state record and walk bookkeeping.
+    std::uint64_t node_record_bytes() const;
+    // The same as node_record_bytes() for a tree of the given shape, known before it is built.
+    static std::uint64_t node_record_bytes(std::uint64_t node_count, std::uint64_t decision_count);
 
     // Each hand counts the same; empty for an inactive or unknown node.
     std::vector<float> average_strategy(std::uint64_t node);
@@ -125,9 +140,9 @@ private:
     // they go side by side, each chunk on a scratch stack leased by the thread that runs it; else in
     // order on the caller's `scratch`. Each child writes only its own rows, so the result is the same.
     template <class Walk>
-    void for_each_child(std::uint64_t node, std::uint64_t count, std::uint64_t hands, ScratchStack& scratch,
+    void for_each_child(std::uint64_t node, std::uint64_t count, std::uint8_t seat, ScratchStack& scratch,
                         const Walk& walk) {
-        if (!fans_out(node, hands)) {
+        if (!fans_out(node, seat)) {
             for (std::uint64_t a = 0; a < count; ++a) walk(a, scratch);
             return;
         }
@@ -136,21 +151,34 @@ private:
             for (std::uint64_t a = begin; a < end; ++a) walk(a, lease.stack());
         });
     }
-    bool fans_out(std::uint64_t node, std::uint64_t hands) const;
+    // Whether a walk for `seat` spreads the node's children over the pool.
+    bool fans_out(std::uint64_t node, std::uint8_t seat) const;
+    // A node's matrices as float rows: the stores' own, or decoded into `buffer` from 16 bits.
+    std::span<float> regret_rows(const NodeState& state, std::vector<float>& buffer);
+    std::span<float> strategy_sum_rows(const NodeState& state, std::vector<float>& buffer);
+    std::vector<float> matrix_of(std::uint64_t node, const StateStore& store, float NodeState::*scale) const;
+    // Packs changed rows back where the stores hold 16 bits.
+    void keep_regrets(NodeState& state, std::span<const float> rows);
+    void keep_strategy_sums(NodeState& state, std::span<const float> rows);
     void walk_children(const Game& game, std::span<const std::uint64_t> children, std::uint8_t seat,
                        std::span<const float> reach, std::span<float> out);
 
     DiscountedCfrOptions options;
     float exploitability = 0.0f;
+    bool exploitability_known = false;
     std::uint32_t iterations_done = 0;
     std::uint32_t current_iteration = 0;
     std::array<std::vector<float>, 2> iteration_values;
     std::array<std::vector<float>, 2> result_values;
-    std::vector<NodeState> states;
+    static constexpr std::uint32_t kNoState = 0xFFFFFFFFu;
+    std::vector<NodeState> states;  // decision nodes with actions, in node order
+    std::vector<std::uint32_t> state_of;
+    NodeState inactive_state;
+    StateStore regret_store;
+    StateStore strategy_sum_store;
     bool compress_state = false;
-    // 1 where a node's children may be walked side by side: chance and decision nodes alike.
-    std::vector<std::uint8_t> parallel_chance;
-    std::vector<std::uint64_t> subtree_nodes;
+    // Bit s set where a walk for seat s spreads the node's children: chance and decision nodes alike.
+    std::vector<std::uint8_t> fan_out_seats;
     float alpha_t = 0.0f;
     float beta_t = 0.5f;
     float gamma_t = 0.0f;

@@ -24,7 +24,7 @@ std::vector<std::uint64_t> subtree_sizes(const Game& game) {
             const auto [node, expanded] = pending.back();
             pending.pop_back();
             if (sizes[node] != 0) continue;
-            const std::vector<std::uint64_t>& children = game.node(node).children;
+            const std::span<const std::uint64_t> children = game.node(node).children;
             if (expanded) {
                 std::uint64_t total = 1;
                 for (const std::uint64_t child : children) total += child < count ? sizes[child] : 0;

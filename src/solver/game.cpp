@@ -3,17 +3,21 @@
 #include <algorithm>
 #include <utility>
 
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
 namespace kelvane {
 namespace {
 
-constexpr std::size_t kInitialLockBuckets = 8;
 constexpr float kTurnChanceFactor = 45.0f;
 constexpr float kRiverChanceFactor = 44.0f;
 
-GameNode to_game_node(const PlanNode& plan_node) {
-    return {plan_node.kind,          plan_node.seat,      plan_node.street,      plan_node.all_in_runout,
-            plan_node.committed,     plan_node.actions,   plan_node.children,    plan_node.pot,
-            plan_node.invested,      plan_node.terminal_kind, plan_node.folded_seat, plan_node.turn_card,
+GameNode to_game_node(const PlanNode& plan_node, std::span<const Action> actions,
+                      std::span<const std::uint64_t> children) {
+    return {plan_node.kind,     plan_node.seat,          plan_node.street,      plan_node.all_in_runout,
+            plan_node.committed, actions,                children,              plan_node.pot,
+            plan_node.invested, plan_node.terminal_kind, plan_node.folded_seat, plan_node.turn_card,
             plan_node.river_card};
 }
 
@@ -21,29 +25,60 @@ bool is_card(Card card) { return card < kCardCount; }
 
 }  // namespace
 
-std::size_t NodeIndexHash::operator()(std::uint64_t node) const noexcept {
-    std::uint64_t hash = 0xCBF29CE484222325ull;
-    for (int byte = 0; byte < 8; ++byte) {
-        hash ^= (node >> (8 * byte)) & 0xFF;
-        hash *= 0x100000001B3ull;
-    }
-    return static_cast<std::size_t>(hash);
+// The plan lives only while its nodes are copied into the flat lists.
+Game::Game(const GameConfig& config, CardContext cards) : config_(config), cards_(std::move(cards)) {
+    flatten(ActionPlan(config_, cards_));
+    // The plan's many small lists leave the heap fragmented, and the allocator keeps what they held.
+#if defined(__GLIBC__)
+    malloc_trim(0);
+#endif
 }
 
-Game::Game(const GameConfig& config, CardContext cards)
-    : config_(config), cards_(std::move(cards)), plan_(config_, cards_), locks_(kInitialLockBuckets) {
-    locks_.max_load_factor(1.0f);
-    nodes_.reserve(plan_.node_count());
-    for (const PlanNode& plan_node : plan_.nodes()) nodes_.push_back(to_game_node(plan_node));
+void Game::flatten(const ActionPlan& plan) {
+    std::size_t action_count = 0;
+    std::size_t child_count = 0;
+    for (const PlanNode& plan_node : plan.nodes()) {
+        action_count += plan_node.actions.size();
+        child_count += plan_node.children.size();
+    }
+    actions_.reserve(action_count);
+    children_.reserve(child_count);
+    nodes_.reserve(plan.node_count());
+    for (const PlanNode& plan_node : plan.nodes()) {
+        const std::span<const Action> actions(actions_.data() + actions_.size(), plan_node.actions.size());
+        const std::span<const std::uint64_t> children(children_.data() + children_.size(), plan_node.children.size());
+        actions_.insert(actions_.end(), plan_node.actions.begin(), plan_node.actions.end());
+        children_.insert(children_.end(), plan_node.children.begin(), plan_node.children.end());
+        nodes_.push_back(to_game_node(plan_node, actions, children));
+    }
+}
+
+std::uint64_t Game::tree_bytes() const {
+    return nodes_.capacity() * sizeof(GameNode) + actions_.capacity() * sizeof(Action) +
+           children_.capacity() * sizeof(std::uint64_t);
+}
+
+std::uint64_t Game::tree_bytes(std::uint64_t node_count, std::uint64_t action_count, std::uint64_t child_count) {
+    return node_count * sizeof(GameNode) + action_count * sizeof(Action) + child_count * sizeof(std::uint64_t);
 }
 
 const std::vector<float>* Game::locking_strategy(std::uint64_t node) const {
-    const auto found = locks_.find(node);
-    return found == locks_.end() ? nullptr : &found->second;
+    return node < nodes_.size() ? locking_strategy(nodes_[node]) : nullptr;
+}
+
+const std::vector<float>* Game::locking_strategy(const GameNode& node) const {
+    return node.lock == kNoLock ? nullptr : &locks_[node.lock];
 }
 
 void Game::set_lock(std::uint64_t node, std::vector<float> strategy) {
-    locks_.insert_or_assign(node, std::move(strategy));
+    if (node >= nodes_.size()) return;
+    GameNode& n = nodes_[node];
+    if (n.lock == kNoLock) {
+        n.lock = static_cast<std::uint32_t>(locks_.size());
+        locks_.push_back(std::move(strategy));
+    } else {
+        locks_[n.lock] = std::move(strategy);
+    }
 }
 
 float Game::chance_factor(std::uint64_t node) const {

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <span>
-#include <unordered_map>
 #include <vector>
 
 #include "poker/card_context.h"
@@ -15,38 +14,39 @@ namespace kelvane {
 
 using Seat = std::uint8_t;  // kSeatOop or kSeatIp
 
-// A plan node as the solver reads it; same index as in the plan, never changed after construction.
+inline constexpr std::uint32_t kNoLock = 0xFFFFFFFFu;
+
+// A plan node as the solver reads it; same index as in the plan. Its action and child lists are views
+// into the game's flat lists, so the tree is held once, in two allocations.
 struct GameNode {
     std::uint8_t kind = kNodeDecision;
     Seat seat = kSeatOop;
     std::uint8_t street = kStreetFlop;  // at a chance node, the street being dealt
     std::uint8_t all_in_runout = 0;
     std::int32_t committed = 0;  // matched by both seats on top of starting_pot
-    std::vector<Action> actions;
-    std::vector<std::uint64_t> children;
+    std::span<const Action> actions;
+    std::span<const std::uint64_t> children;
     std::int32_t pot = 0;
     std::array<std::int32_t, 2> invested{};
     std::uint8_t terminal_kind = kActionNone;  // fold, or anything else for a showdown
     Seat folded_seat = kSeatOop;
     Card turn_card = kNoCard;
     Card river_card = kNoCard;
-};
-
-// FNV-1a over the eight bytes of a node index.
-struct NodeIndexHash {
-    std::size_t operator()(std::uint64_t node) const noexcept;
+    std::uint32_t lock = kNoLock;  // index of the node's lock matrix, so a visit needs no look-up
 };
 
 class Game {
 public:
     using SeatSwaps = std::array<SwapList, 2>;
 
-    // Takes over the deal, builds the betting tree and copies its nodes; plan errors propagate.
+    // Takes over the deal, builds the betting tree and keeps its nodes; plan errors propagate.
     Game(const GameConfig& config, CardContext cards);
+    // The nodes view the game's own lists.
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
 
     const GameConfig& config() const { return config_; }
     const CardContext& cards() const { return cards_; }
-    const ActionPlan& plan() const { return plan_; }
 
     std::span<const Pocket> hands(Seat seat) const { return cards_.pockets[seat]; }
     std::size_t hand_count(Seat seat) const { return cards_.pockets[seat].size(); }
@@ -55,9 +55,15 @@ public:
     const GameNode& node(std::uint64_t index) const { return nodes_[index]; }
     std::span<const GameNode> nodes() const { return nodes_; }
     std::uint64_t node_count() const { return nodes_.size(); }
+    // What the tree's nodes and lists hold.
+    std::uint64_t tree_bytes() const;
+    // The same for a tree of the given shape, known before it is built.
+    static std::uint64_t tree_bytes(std::uint64_t node_count, std::uint64_t action_count, std::uint64_t child_count);
 
     // The lock matrix of a node (action-major, actions × hands of the acting seat), or null.
     const std::vector<float>* locking_strategy(std::uint64_t node) const;
+    const std::vector<float>* locking_strategy(const GameNode& node) const;
+    // Replaces the node's lock; a node index out of range is ignored.
     void set_lock(std::uint64_t node, std::vector<float> strategy);
 
     bool compress_state() const { return compress_state_; }
@@ -79,11 +85,14 @@ public:
                   std::span<float> out) const;
 
 private:
+    void flatten(const ActionPlan& plan);
+
     GameConfig config_;
     CardContext cards_;
-    ActionPlan plan_;
+    std::vector<Action> actions_;
+    std::vector<std::uint64_t> children_;
     std::vector<GameNode> nodes_;
-    std::unordered_map<std::uint64_t, std::vector<float>, NodeIndexHash> locks_;
+    std::vector<std::vector<float>> locks_;
     std::vector<std::uint8_t> empty_chance_refs_;
     SeatSwaps empty_swaps_;
     bool compress_state_ = false;

@@ -26,6 +26,8 @@ struct ScratchFrame {
     std::vector<float> other_strategy;
     std::vector<float> other_denom;
     std::vector<float> child_reach;
+    std::vector<float> decoded_regrets;  // a node's matrices decoded from 16 bits
+    std::vector<float> decoded_sums;
 
     // Row-major rows × cols view of `child_values`, recording the shape.
     std::span<float> grow_child_values(std::uint64_t row_count, std::uint64_t col_count);

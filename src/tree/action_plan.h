@@ -85,6 +85,12 @@ public:
     std::size_t node_count() const { return nodes_.size(); }
 
 private:
+    // Walks the same expansion, keeping totals instead of nodes (plan_count.cpp).
+    friend class PlanCounter;
+    struct Unbuilt {};
+    // Ready to expand nodes, with no tree built; defined beside the counting walk.
+    ActionPlan(const GameConfig& config, const CardContext& cards, Unbuilt);
+
     struct Child {
         Action action;
         BuildContext context;

@@ -1,6 +1,7 @@
 // Tests of the controller's solve control: readiness checks, a whole run, cancel, clear, re-solve,
 // developer mode, system properties and the memory estimate.
 #include <QElapsedTimer>
+#include <QSet>
 #include <QSignalSpy>
 #include <QtTest>
 #include <chrono>
@@ -11,8 +12,10 @@
 #include "app/platform.h"
 #include "app/solve_map.h"
 #include "controller_test_support.h"
+#include "session/action_text.h"
 #include "session/detached_threads.h"
 #include "session/memory_estimate.h"
+#include "solver/game.h"
 
 using kelvane_app::AppController;
 using kelvane_test::loadSpot;
@@ -61,6 +64,25 @@ bool developerModeWith(std::initializer_list<std::pair<const char*, const char*>
     const AppController controller;
     clearDevVariables();
     return controller.developerMode();
+}
+
+// What each tree view text reads for a node of the live game.
+QString expectedNodeType(const kelvane::GameNode& node) {
+    if (node.kind == kelvane::kNodeDecision) return QStringLiteral("decision");
+    if (node.kind == kelvane::kNodeChance) return QStringLiteral("chance");
+    return QStringLiteral("terminal");
+}
+
+QString expectedPlayer(const kelvane::GameNode& node) {
+    if (node.kind != kelvane::kNodeDecision) return {};
+    return node.seat == kelvane::kSeatOop ? QStringLiteral("OOP") : QStringLiteral("IP");
+}
+
+QString expectedChanceDeal(const kelvane::GameNode& node) {
+    if (node.kind != kelvane::kNodeChance) return {};
+    if (node.turn_card >= kelvane::kNoCard) return QStringLiteral("turn");
+    if (node.river_card >= kelvane::kNoCard) return QStringLiteral("river");
+    return {};
 }
 
 }  // namespace
@@ -301,6 +323,57 @@ class AppControllerSolveTest : public QObject {
         const QVariantMap afterBet = c.nodeMeta(actions[1].toMap().value("childIndex").toInt());
         QCOMPARE(afterBet.value("player").toString(), QStringLiteral("IP"));
         QCOMPARE(afterBet.value("investedOop").toInt(), 75);
+    }
+
+    // Every node of a flop tree, deals and runouts included, reaches the tree views with the keys and
+    // texts of its live game node.
+    void treeViewsDescribeEveryGameNode() {
+        AppController c;
+        c.startSolveWithConfig(quickFlopSpot("AsKdQh"));
+        QVERIFY(waitForIdle(c));
+        QCOMPARE(c.statusText(), QStringLiteral("Done"));
+        const kelvane_app::SolvedGame solved = c.m_session.solution();
+        QVERIFY(solved.game);
+        const kelvane::Game& game = *solved.game;
+        QCOMPARE(c.treeNodeCount(), static_cast<int>(game.node_count()));
+
+        const QStringList metaKeys{"chanceDeal",  "effectiveStack", "hasChildren", "investedIp",
+                                   "investedOop", "nodeType",       "player",      "pot"};
+        const QStringList actionKeys{"actionType", "childIndex", "frequency", "name"};
+        QSet<QString> deals;
+        for (int i = 0; i < c.treeNodeCount(); ++i) {
+            const kelvane::GameNode& node = game.node(static_cast<std::uint64_t>(i));
+            const QVariantMap meta = c.nodeMeta(i);
+            QCOMPARE(meta.keys(), metaKeys);
+            QCOMPARE(meta.value("nodeType").toString(), expectedNodeType(node));
+            QCOMPARE(meta.value("player").toString(), expectedPlayer(node));
+            QCOMPARE(meta.value("chanceDeal").toString(), expectedChanceDeal(node));
+            QCOMPARE(meta.value("pot").toInt(), node.pot);
+            QCOMPARE(meta.value("effectiveStack").toInt(), 100);
+            QCOMPARE(meta.value("investedOop").toInt(), node.invested[kelvane::kSeatOop]);
+            QCOMPARE(meta.value("investedIp").toInt(), node.invested[kelvane::kSeatIp]);
+            QCOMPARE(meta.value("hasChildren").toBool(), !node.actions.empty());
+            deals.insert(meta.value("chanceDeal").toString());
+
+            const QVariantList actions = c.nodeActions(i);
+            QCOMPARE(actions.size(), static_cast<qsizetype>(node.actions.size()));
+            const double base = kelvane_app::node_percent_base(node.pot, c.resultStartingPot());
+            double frequencySum = 0.0;
+            for (qsizetype a = 0; a < actions.size(); ++a) {
+                const QVariantMap action = actions[a].toMap();
+                const kelvane::Action& played = node.actions[static_cast<std::size_t>(a)];
+                QCOMPARE(action.keys(), actionKeys);
+                QCOMPARE(action.value("name").toString(),
+                         QString::fromStdString(kelvane_app::action_name(played, base)));
+                QCOMPARE(action.value("actionType").toString(),
+                         QString::fromStdString(kelvane_app::action_type_text(played, base)));
+                QCOMPARE(action.value("childIndex").toULongLong(),
+                         static_cast<qulonglong>(node.children[static_cast<std::size_t>(a)]));
+                frequencySum += action.value("frequency").toDouble();
+            }
+            if (!actions.isEmpty()) QVERIFY(std::abs(frequencySum - 1.0) < 1e-5);
+        }
+        QCOMPARE(deals, (QSet<QString>{"", "turn", "river"}));
     }
 
     // The last message is handled while the worker still holds its flag up; the flag's fall alone, with

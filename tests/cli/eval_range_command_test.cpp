@@ -90,6 +90,27 @@ TEST(EvalCommand, OtherCardCountsFail) {
     }
 }
 
+// Seven cards come from one deck: a card given twice is refused, whatever case it is written in.
+TEST(EvalCommand, RepeatedCardsFail) {
+    for (const std::vector<std::string>& args : {std::vector<std::string>{"eval", "Ah Ah Kd Qc Jd 2s 3c"},
+                                                 {"eval", "Ah Kd Qc Jd 2s 3c ah"},
+                                                 {"eval", "AhKdQcJd2s3cAH"}}) {
+        const CliRun run = run_cli(args);
+        EXPECT_EQ(run.exit_code, 1) << args[1];
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, "error: Ah appears twice; the seven cards must be distinct\n") << args[1];
+    }
+}
+
+TEST(EvalStdin, RepeatedCardsAreReportedInPlace) {
+    const CliRun run = run_cli({"eval", "--stdin"}, "AhKhQhJhTh2c3d\n2c2c2c2c2c2c2c\nAhKhQhJhTh2c3d\n");
+    EXPECT_EQ(run.exit_code, 1);
+    EXPECT_EQ(run.out,
+              "570425344 8\n"
+              "error: 2c appears twice; the seven cards must be distinct\n"
+              "570425344 8\n");
+}
+
 TEST(EvalCommand, NoArgumentShowsUsage) {
     const CliRun run = run_cli({"eval"});
     EXPECT_EQ(run.exit_code, 2);

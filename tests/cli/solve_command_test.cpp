@@ -6,38 +6,80 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
 #include <signal.h>
 
-#include <cmath>
+#include "cli/cli_run.h"
 
 namespace {
 
-const QString kSpotDir = QStringLiteral(KELVANE_SOURCE_DIR "/bench/spots/");
+using namespace cli_test;
 
-struct CliRun {
-    int exit_code = -1;
-    QByteArray out;
-    QByteArray err;
-    QJsonObject json;
-};
+const QString kSummaryStart = QStringLiteral("Summary: ");
 
-CliRun run_cli(const QStringList& args) {
-    QProcess process;
-    process.start(QStringLiteral(ORVANTHIS_CLI), args);
-    EXPECT_TRUE(process.waitForFinished(120000));
-    CliRun run;
-    run.exit_code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    run.out = process.readAllStandardOutput();
-    run.err = process.readAllStandardError();
-    run.json = QJsonDocument::fromJson(run.out).object();
-    return run;
+// Standard error up to the closing summary: the worker's status texts, one a line.
+QStringList status_lines(const QByteArray& err) {
+    QStringList status;
+    for (const QString& line : lines_of(err)) {
+        if (line.startsWith(kSummaryStart)) break;
+        status.append(line);
+    }
+    return status;
 }
 
-QStringList lines_of(const QByteArray& text) {
-    return QString::fromUtf8(text).split('\n', Qt::SkipEmptyParts);
+// The summary's lines, from its first on; empty when there is none.
+QStringList summary_lines(const QByteArray& err) {
+    const QStringList lines = lines_of(err);
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        if (lines[i].startsWith(kSummaryStart)) return lines.mid(i);
+    return {};
+}
+
+// Starts a solve whose iterations take a while, and returns once it has reported its first one.
+void start_until_iterating(QProcess& process, const QStringList& args) {
+    process.setReadChannel(QProcess::StandardError);
+    process.start(QStringLiteral(ORVANTHIS_CLI), args);
+    ASSERT_TRUE(process.waitForStarted());
+    bool iterating = false;
+    while (!iterating && process.waitForReadyRead(60000)) {
+        while (process.canReadLine())
+            if (process.readLine().startsWith("Iter")) iterating = true;
+    }
+    ASSERT_TRUE(iterating);
+}
+
+void send_signal(const QProcess& process, int signal_number) {
+    ::kill(static_cast<pid_t>(process.processId()), signal_number);
+}
+
+// A cancelled run keeps what its iterations reached: a root strategy, EVs, and the exploitability once
+// measured (null before).
+void expect_cancelled_result(QProcess& process) {
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QByteArray err = process.readAllStandardError();
+    EXPECT_EQ(status_lines(err).last(), "Cancelled");
+    const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
+    EXPECT_FALSE(json.value("success").toBool());
+    EXPECT_EQ(json.value("error").toString(), "Cancelled");
+    const int iterations = json.value("iterations").toInt();
+    EXPECT_GT(iterations, 0);
+    const QJsonArray root = json.value("root_actions").toArray();
+    ASSERT_EQ(root.size(), 2);
+    EXPECT_NEAR(root[0].toObject().value("frequency").toDouble() + root[1].toObject().value("frequency").toDouble(),
+                1.0, 1e-5);
+    // Computed, not left at 0; without rake what one seat wins the other loses.
+    EXPECT_NE(json.value("ev_oop").toDouble(), 0.0);
+    EXPECT_NEAR(json.value("ev_oop").toDouble() + json.value("ev_ip").toDouble(), 0.0, 1e-3);
+    EXPECT_GT(json.value("node_count").toInt(), 1);
+    EXPECT_EQ(json.value("exploitability").isNull(), iterations < 50) << iterations;
+    const QStringList summary = summary_lines(err);
+    ASSERT_FALSE(summary.isEmpty());
+    EXPECT_TRUE(summary[0].startsWith("Summary: Ks9d4c7h2s cancelled in ")) << summary[0].toStdString();
 }
 
 // The polarised river: exact showdowns give the textbook -20 / +20; the earlier early stop of the
@@ -125,13 +167,42 @@ TEST(SolveCommand, RiverSpotEndToEnd) {
         << bad_line.value("error").toString().toStdString();
     EXPECT_FALSE(bad_line.contains("node_index"));
 
-    const QStringList status = lines_of(run.err);
-    ASSERT_GE(status.size(), 6);
+    // Without a terminal the status texts come one a line, every iteration's included, exactly as the
+    // worker sends them; then the summary.
+    EXPECT_FALSE(run.err.contains('\r'));
+    const QStringList status = status_lines(run.err);
+    ASSERT_EQ(status.size(), 3 + iterations + 3);
     EXPECT_EQ(status[0], "Init: building game object...");
     EXPECT_EQ(status[1], "Init: building game tree structures...");
     EXPECT_EQ(status[2], "Init: starting solver...");
     EXPECT_EQ(status[3], QString::fromUtf8("Iter 1 | exploitability\u2248" "0.0000"));
+    for (int i = 1; i <= iterations; ++i)
+        EXPECT_TRUE(status[2 + i].startsWith(QStringLiteral("Iter %1 | exploitability").arg(i))) << i;
+    EXPECT_EQ(status[3 + iterations], "Finalizing: computing results...");
     EXPECT_EQ(status.last(), "Done");
+
+    const QStringList summary = summary_lines(run.err);
+    ASSERT_EQ(summary.size(), 4);
+    EXPECT_TRUE(summary[0].startsWith(QStringLiteral("Summary: Ks9d4c7h2s solved in "))) << summary[0].toStdString();
+    EXPECT_TRUE(summary[0].endsWith(QStringLiteral(" s, %1 iterations").arg(iterations))) << summary[0].toStdString();
+    EXPECT_EQ(summary[1], QString::asprintf("  exploitability: %.4f (%.3f%% of the pot)",
+                                            json.value("exploitability").toDouble(),
+                                            json.value("exploitability_pct").toDouble()));
+    EXPECT_EQ(summary[2], QString::asprintf("  EV: OOP %.3f, IP %.3f", json.value("ev_oop").toDouble(),
+                                            json.value("ev_ip").toDouble()));
+    EXPECT_EQ(summary[3], QString::asprintf("  root strategy (OOP): Check %.1f%%, Bet 75%% %.1f%%",
+                                            root[0].toObject().value("frequency").toDouble() * 100.0,
+                                            root[1].toObject().value("frequency").toDouble() * 100.0));
+}
+
+TEST(SolveCommand, SummarySaysWhenNothingWasMeasured) {
+    const CliRun run = run_cli({"solve", kSpotDir + "river.json", "--max-iterations", "0"});
+    ASSERT_EQ(run.exit_code, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.json.value("exploitability").isNull());
+    const QStringList summary = summary_lines(run.err);
+    ASSERT_EQ(summary.size(), 4);
+    EXPECT_TRUE(summary[0].endsWith(" s, 0 iterations")) << summary[0].toStdString();
+    EXPECT_EQ(summary[1], "  exploitability: not measured");
 }
 
 TEST(SolveCommand, QuietWritesNoStatusAndOutputGoesToTheFile) {
@@ -178,26 +249,47 @@ TEST(SolveCommand, FailedSolveExitsWithOne) {
     EXPECT_EQ(lines_of(run.err).last(), "Error: Board must include at least a flop (6 chars, e.g. AhKsQd)");
 }
 
-TEST(SolveCommand, InterruptCancelsTheSolve) {
+const QStringList kEndlessRiver = {"solve", kSpotDir + "river.json", "--max-iterations", "100000000",
+                                    "--target-pct", "0"};
+
+TEST(SolveCommand, InterruptCancelsTheSolveAndKeepsItsResult) {
     QProcess process;
-    process.setReadChannel(QProcess::StandardError);
-    process.start(QStringLiteral(ORVANTHIS_CLI),
-                  {"solve", kSpotDir + "river.json", "--max-iterations", "100000000", "--target-pct", "0"});
-    ASSERT_TRUE(process.waitForStarted());
-    bool iterating = false;
-    while (!iterating && process.waitForReadyRead(60000)) {
-        while (process.canReadLine())
-            if (process.readLine().startsWith("Iter")) iterating = true;
-    }
-    ASSERT_TRUE(iterating);
-    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    start_until_iterating(process, kEndlessRiver);
+    send_signal(process, SIGINT);
+    expect_cancelled_result(process);
+}
+
+TEST(SolveCommand, TerminateCancelsTheSolveAndKeepsItsResult) {
+    QProcess process;
+    start_until_iterating(process, kEndlessRiver);
+    send_signal(process, SIGTERM);
+    expect_cancelled_result(process);
+}
+
+// An iteration of both full ranges on the turn takes a good part of a second on one thread, so the
+// second interrupt lands while the first still waits for the iteration's end.
+TEST(SolveCommand, SecondInterruptEndsAtOnce) {
+    QTemporaryDir dir;
+    const QString spot = dir.filePath("wide_turn.json");
+    QFile source(kSpotDir + "turn.json");
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    QJsonObject json = QJsonDocument::fromJson(source.readAll()).object();
+    json.insert("oop_range", "100%");
+    json.insert("ip_range", "100%");
+    QFile file(spot);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QJsonDocument(json).toJson());
+    file.close();
+
+    QProcess process;
+    start_until_iterating(process, {"solve", spot, "--threads", "1", "--max-iterations", "1000"});
+    send_signal(process, SIGINT);
+    QThread::msleep(20);
+    send_signal(process, SIGINT);
     ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(process.exitCode(), 1);
-    EXPECT_EQ(lines_of(process.readAllStandardError()).last(), "Cancelled");
-    const QJsonObject json = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
-    EXPECT_FALSE(json.value("success").toBool());
-    EXPECT_EQ(json.value("error").toString(), "Cancelled");
+    EXPECT_EQ(process.exitCode(), 130);
+    EXPECT_TRUE(process.readAllStandardOutput().isEmpty());
 }
 
 TEST(EstimateCommand, SpotAndBadBoard) {
@@ -205,12 +297,15 @@ TEST(EstimateCommand, SpotAndBadBoard) {
     ASSERT_EQ(good.exit_code, 0);
     EXPECT_TRUE(good.json.value("ok").toBool());
     EXPECT_TRUE(good.json.value("valid").toBool());
-    for (const char* key : {"total_bytes", "card_context_bytes", "tree_bytes", "state_bytes", "node_count",
-                            "decision_node_count", "oop_hands", "ip_hands"})
+    for (const char* key : {"total_bytes", "card_context_bytes", "tree_bytes", "state_bytes", "result_bytes",
+                            "node_count", "decision_node_count", "oop_hands", "ip_hands"})
         EXPECT_GT(good.json.value(key).toDouble(), 0.0) << key;
     const double counted = good.json.value("tree_bytes").toDouble() + good.json.value("card_context_bytes").toDouble() +
-                           good.json.value("state_bytes").toDouble();
-    EXPECT_EQ(good.json.value("total_bytes").toDouble(), std::floor(counted * 1.1));
+                           good.json.value("state_bytes").toDouble() + good.json.value("result_bytes").toDouble();
+    // The rest is the process and the walks, the same for every spot.
+    const double runtime = good.json.value("total_bytes").toDouble() - counted;
+    EXPECT_GT(runtime, 0.0);
+    EXPECT_LT(runtime, 32e6);
 
     QTemporaryDir dir;
     const QString path = dir.filePath("bad.json");

@@ -10,28 +10,12 @@
 #include <gtest/gtest.h>
 
 #include "app/solve_map.h"
+#include "cli/cli_run.h"
 #include "session/solve_setup.h"
 
 namespace {
 
-const QString kSpotDir = QStringLiteral(KELVANE_SOURCE_DIR "/bench/spots/");
-
-struct CliRun {
-    int exit_code = -1;
-    QByteArray out;
-    QJsonObject json;
-};
-
-CliRun run_cli(const QStringList& args) {
-    QProcess process;
-    process.start(QStringLiteral(ORVANTHIS_CLI), args);
-    EXPECT_TRUE(process.waitForFinished(60000));
-    CliRun run;
-    run.exit_code = process.exitCode();
-    run.out = process.readAllStandardOutput();
-    run.json = QJsonDocument::fromJson(run.out).object();
-    return run;
-}
+using namespace cli_test;
 
 QString write_file(const QTemporaryDir& dir, const QString& name, const QByteArray& content) {
     const QString path = dir.filePath(name);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "session/solve_setup.h"
+#include "solver/discounted_cfr.h"
+#include "solver/game.h"
 #include "session_test_support.h"
 #include "tree/action_plan.h"
 
@@ -23,22 +25,38 @@ TEST(MemoryEstimate, CountsTheRealDealAndTree) {
     EXPECT_EQ(estimate.node_count, plan.node_count());
     EXPECT_EQ(estimate.oop_hands, cards.pockets[0].size());
     EXPECT_EQ(estimate.ip_hands, cards.pockets[1].size());
-
-    std::uint64_t tree = plan.node_count() * sizeof(kelvane::PlanNode);
-    std::uint64_t state = 0;
     std::uint64_t decisions = 0;
-    for (const kelvane::PlanNode& node : plan.nodes()) {
-        tree += 8 * (node.actions.capacity() + node.children.capacity());
-        if (node.kind == kelvane::kNodeDecision && !node.actions.empty()) {
-            ++decisions;
-            state += 8 * cards.pockets[node.seat].size() * node.actions.size();
-        }
-    }
-    EXPECT_EQ(estimate.tree_bytes, tree);
-    EXPECT_EQ(estimate.state_bytes, state);
+    for (const kelvane::PlanNode& node : plan.nodes())
+        if (node.kind == kelvane::kNodeDecision && !node.actions.empty()) ++decisions;
     EXPECT_EQ(estimate.decision_node_count, decisions);
-    EXPECT_EQ(estimate.total_bytes,
-              static_cast<std::uint64_t>(static_cast<double>(tree + cards.memory_bytes() + state) * 1.1));
+}
+
+// The parts are what a real game and solver hold, in both storage modes; the total adds a fixed share
+// for the process and the walks.
+TEST(MemoryEstimate, PartsMatchWhatTheGameAndSolverHold) {
+    for (const bool packed : {false, true}) {
+        SolveConfig config = small_river_spot();
+        config.board = "AhKs7d";  // a flop, so that the tree deals
+        config.starting_street = "flop";
+        config.solver_flag = packed;
+        const SolveMemoryEstimate estimate = estimate_solve_memory(config);
+        ASSERT_TRUE(estimate.valid);
+
+        const SolveSetup setup = make_solve_setup(config);
+        const kelvane::Game game(setup.game, kelvane::CardContext(setup.board, setup.ranges));
+        kelvane::DiscountedCfrOptions options;
+        options.compress_state = packed;
+        kelvane::DiscountedCfr solver(options);
+        solver.prepare_states(game);
+        EXPECT_EQ(estimate.card_context_bytes, game.cards().memory_bytes()) << packed;
+        EXPECT_EQ(estimate.tree_bytes, game.tree_bytes() + solver.node_record_bytes()) << packed;
+        EXPECT_EQ(estimate.state_bytes, solver.state_bytes()) << packed;
+        EXPECT_GT(estimate.state_bytes, 0u);
+        const std::uint64_t parts =
+            estimate.card_context_bytes + estimate.tree_bytes + estimate.state_bytes + estimate.result_bytes;
+        EXPECT_GT(estimate.total_bytes, parts);
+        EXPECT_LT(estimate.total_bytes - parts, 32'000'000u);
+    }
 }
 
 TEST(MemoryEstimate, ShortBoardIsInvalidWithTheBoardMessage) {
@@ -104,6 +122,7 @@ TEST(MemoryEstimate, PackedStateHalvesTheStateBytes) {
     const SolveMemoryEstimate packed = estimate_solve_memory(config);
     EXPECT_EQ(packed.state_bytes * 2, plain.state_bytes);
     EXPECT_EQ(packed.tree_bytes, plain.tree_bytes);
+    EXPECT_EQ(plain.total_bytes - packed.total_bytes, packed.state_bytes);
 }
 
 TEST(MemoryEstimate, LocksPlayNoPart) {

@@ -102,7 +102,7 @@ TEST(SolutionView, EveryPathLeadsFromTheRootToItsNode) {
             EXPECT_EQ(path->front().node, 0u);
             EXPECT_EQ(path->back().node, node);
             for (std::size_t i = 1; i < path->size(); ++i)
-                EXPECT_EQ(game.node((*path)[i - 1].node).children.at((*path)[i].action), (*path)[i].node);
+                EXPECT_EQ(game.node((*path)[i - 1].node).children[(*path)[i].action], (*path)[i].node);
         }
     }
 }

@@ -9,8 +9,10 @@
 #include <future>
 #include <numeric>
 #include <semaphore>
+#include <span>
 
 #include "session/detached_threads.h"
+#include "session/result_text.h"
 #include "session_test_support.h"
 
 namespace kelvane_app {
@@ -97,34 +99,37 @@ TEST(SolveSession, SnapshotDescribesEveryNode) {
         EXPECT_EQ(record.pot, node.pot);
         EXPECT_EQ(record.invested_oop, node.invested[0]);
         EXPECT_EQ(record.invested_ip, node.invested[1]);
-        EXPECT_EQ(record.chance_deal, "");
-        ASSERT_EQ(record.actions.size(), node.actions.size());
+        EXPECT_EQ(chance_deal_text(record), "");
+        const std::span<const ResultAction> actions = node_actions(result, record);
+        ASSERT_EQ(actions.size(), node.actions.size());
         if (node.kind == kelvane::kNodeDecision) {
-            EXPECT_EQ(record.node_type, "decision");
-            EXPECT_EQ(record.player, node.seat == 0 ? "OOP" : "IP");
+            EXPECT_EQ(node_type_text(record), "decision");
+            EXPECT_EQ(player_text(record), node.seat == 0 ? "OOP" : "IP");
             float sum = 0.0f;
             for (std::size_t a = 0; a < node.actions.size(); ++a) {
-                EXPECT_EQ(record.actions[a].child_index, node.children[a]);
-                sum += record.actions[a].frequency;
+                EXPECT_EQ(actions[a].child_index, node.children[a]);
+                sum += actions[a].frequency;
             }
             EXPECT_NEAR(sum, 1.0f, 1e-5f);
             const std::vector<float> strategy = solved.solver->average_strategy(i);
             for (std::size_t a = 0; a < node.actions.size(); ++a)
-                EXPECT_NEAR(record.actions[a].frequency, strategy[a], 1e-5f);
+                EXPECT_NEAR(actions[a].frequency, strategy[a], 1e-5f);
         } else {
-            EXPECT_EQ(record.node_type, "terminal");
-            EXPECT_EQ(record.player, "");
+            EXPECT_EQ(node_type_text(record), "terminal");
+            EXPECT_EQ(player_text(record), "");
         }
     }
     // Facing the 50 chip bet, the in-position seat may fold or call; its percent base is the node's pot.
-    const ResultNode& facing = result.nodes[result.nodes[0].actions[1].child_index];
-    ASSERT_EQ(facing.actions.size(), 2u);
-    EXPECT_EQ(facing.actions[0].name, "Fold");
-    EXPECT_EQ(facing.actions[1].name, "Call");
+    const std::span<const ResultAction> root = node_actions(result, result.nodes[0]);
+    const ResultNode& facing = result.nodes[root[1].child_index];
+    const std::span<const ResultAction> facing_actions = node_actions(result, facing);
+    ASSERT_EQ(facing_actions.size(), 2u);
+    EXPECT_EQ(result_action_name(result, facing, facing_actions[0]), "Fold");
+    EXPECT_EQ(result_action_name(result, facing, facing_actions[1]), "Call");
     EXPECT_EQ(facing.pot, 150);
-    const ResultNode& checked = result.nodes[result.nodes[0].actions[0].child_index];
-    EXPECT_EQ(checked.player, "IP");
-    EXPECT_EQ(checked.actions[1].name, "Bet 50%");
+    const ResultNode& checked = result.nodes[root[0].child_index];
+    EXPECT_EQ(player_text(checked), "IP");
+    EXPECT_EQ(result_action_name(result, checked, node_actions(result, checked)[1]), "Bet 50%");
 }
 
 TEST(SolveSession, BoardOfFiveCharactersFails) {
@@ -193,14 +198,17 @@ TEST(SolveSession, OddBoardCharactersAreIgnored) {
     EXPECT_EQ(flop.board, "AhKs7d2");
     const auto deals = [](const SolveResult& result, const char* street) {
         return std::count_if(result.nodes.begin(), result.nodes.end(),
-                             [&](const ResultNode& node) { return node.chance_deal == street; });
+                             [&](const ResultNode& node) { return chance_deal_text(node) == street; });
     };
     // Only checks are possible: the root's check-through reaches one chance node.
-    const auto first_deal = [](const SolveResult& result) {
-        return result.nodes[result.nodes[result.nodes[0].actions[0].child_index].actions[0].child_index];
+    const auto first_child = [](const SolveResult& result, const ResultNode& node) -> const ResultNode& {
+        return result.nodes[node_actions(result, node)[0].child_index];
     };
-    EXPECT_EQ(first_deal(flop).chance_deal, "turn");
-    EXPECT_GT(first_deal(flop).actions.size(), 1u);
+    const auto first_deal = [&](const SolveResult& result) -> const ResultNode& {
+        return first_child(result, first_child(result, result.nodes[0]));
+    };
+    EXPECT_EQ(chance_deal_text(first_deal(flop)), "turn");
+    EXPECT_GT(node_actions(flop, first_deal(flop)).size(), 1u);
     EXPECT_GT(deals(flop, "river"), 1);
 
     config.board = "AhKs7d2c3";  // a flop and a turn
@@ -208,9 +216,10 @@ TEST(SolveSession, OddBoardCharactersAreIgnored) {
     ASSERT_TRUE(turn.success) << turn.error;
     // The turn is known from the root on, so the flop's check-through deals the river at once.
     EXPECT_EQ(deals(turn, "turn"), 0);
-    EXPECT_EQ(first_deal(turn).chance_deal, "river");
+    EXPECT_EQ(chance_deal_text(first_deal(turn)), "river");
     EXPECT_EQ(deals(turn, "river"), 1);
-    for (const ResultAction& card : first_deal(turn).actions) EXPECT_NE(card.name, "2c");
+    for (const ResultAction& card : node_actions(turn, first_deal(turn)))
+        EXPECT_NE(result_action_name(turn, first_deal(turn), card), "2c");
 }
 
 TEST(SolveSession, CapitalisedStreetCountsAsTheFlop) {
@@ -219,7 +228,7 @@ TEST(SolveSession, CapitalisedStreetCountsAsTheFlop) {
     config.max_iterations = 0;
     const auto chance_nodes = [](const SolveResult& result) {
         return std::count_if(result.nodes.begin(), result.nodes.end(),
-                             [](const ResultNode& node) { return node.node_type == "chance"; });
+                             [](const ResultNode& node) { return node_type_text(node) == "chance"; });
     };
     const SolveResult river = solve_to_end(session, config);
     config.starting_street = "River";
@@ -326,6 +335,26 @@ TEST(SolveSession, CancelledRunLeavesNoSolutionAndDroppedThePreviousOneAtStart) 
     ASSERT_TRUE(session.start(small_river_spot(), recorder.callback()));
     EXPECT_EQ(recorder.wait(session).back().status, "Cancelled");
     EXPECT_TRUE(empty_at_first_message);
+    EXPECT_FALSE(session.solution().game);
+}
+
+// The result of a cancelled run still carries what the iterations before the cancel computed.
+TEST(SolveSession, CancelledResultKeepsTheIterationsDone) {
+    SolveSession session;
+    RunRecorder recorder;
+    recorder.hook = [&](const SolveProgress& message) {
+        if (message.status.rfind("Iter 2 ", 0) == 0) session.cancel();
+    };
+    ASSERT_TRUE(session.start(small_river_spot(), recorder.callback()));
+    const std::vector<SolveProgress> messages = recorder.wait(session);
+    const SolveProgress& last = messages.back();
+    ASSERT_EQ(last.status, "Cancelled");
+    ASSERT_TRUE(last.result.has_value());
+    EXPECT_FALSE(last.result->success);
+    EXPECT_GE(last.result->iterations, 2u);
+    EXPECT_FALSE(last.result->exploitability_measured);
+    EXPECT_FALSE(last.result->root_action_names.empty());
+    EXPECT_FALSE(last.result->nodes.empty());
     EXPECT_FALSE(session.solution().game);
 }
 
@@ -475,6 +504,32 @@ TEST(SolveProgressText, CappedProgress) {
     EXPECT_EQ(capped_progress(5, 10), 0.5);
     EXPECT_EQ(capped_progress(10, 10), 0.999);
     EXPECT_EQ(capped_progress(20, 10), 0.999);
+}
+
+TEST(SolveSession, ExploitabilityIsMarkedMeasuredOnlyWhenAnIterationMeasuredIt) {
+    SolveSession session;
+    SolveConfig config = small_river_spot();
+    config.max_iterations = 0;
+    const SolveResult none = solve_to_end(session, config);
+    ASSERT_TRUE(none.success) << none.error;
+    EXPECT_FALSE(none.exploitability_measured);
+
+    config.max_iterations = 3;  // before the first interval: the last iteration measures
+    const SolveResult last = solve_to_end(session, config);
+    ASSERT_EQ(last.iterations, 3u);
+    EXPECT_TRUE(last.exploitability_measured);
+    EXPECT_GT(last.exploitability, 0.0f);
+
+    config.max_iterations = 1000;
+    config.target_exploitability = 1e9f;  // met at the first measuring iteration
+    const SolveResult early = solve_to_end(session, config);
+    ASSERT_EQ(early.iterations, kExploitCheckInterval);
+    EXPECT_TRUE(early.exploitability_measured);
+
+    config.board = "AhKs7";
+    const SolveResult failed = solve_to_end(session, config);
+    ASSERT_FALSE(failed.success);
+    EXPECT_FALSE(failed.exploitability_measured);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "solver/node_locks.h"
 #include "solver/regret_matching.h"
 #include "solver/row_kernels.h"
+#include "solver/state_store.h"
 #include "solver/state_packing.h"
 
 namespace kelvane {
@@ -177,47 +178,71 @@ TEST(NodeLockOverlay, MissingOrEmptyLockIsNoLock) {
 }
 
 TEST(StatePacking, RoundTripWithinOneStep) {
-    std::vector<float> values{3.0f, -1.5f, 0.0f, 0.75f, -3.0f, 1e-3f};
-    const std::vector<float> original = values;
-    std::vector<std::int16_t> packed;
-    float scale = 0.0f;
-    const std::size_t capacity = values.capacity();
-    pack_matrix(values, packed, scale);
-    EXPECT_TRUE(values.empty());
-    EXPECT_EQ(values.capacity(), capacity);
+    const std::vector<float> original{3.0f, -1.5f, 0.0f, 0.75f, -3.0f, 1e-3f};
+    std::vector<std::int16_t> packed(original.size());
+    const float scale = pack_matrix(original, packed);
     EXPECT_EQ(scale, 3.0f);
     EXPECT_EQ(packed[0], 32767);
     EXPECT_EQ(packed[4], -32767);
     EXPECT_EQ(packed[1], -16384);  // -16383.5 rounds away from zero
-    unpack_matrix(values, packed, scale, original.size());
-    ASSERT_EQ(values.size(), original.size());
+    std::vector<float> values(original.size());
+    unpack_matrix(packed, scale, values);
     for (std::size_t i = 0; i < values.size(); ++i) EXPECT_NEAR(values[i], original[i], 3.0f / 32767.0f);
 }
 
 TEST(StatePacking, EmptyAndNegligibleMatrices) {
-    std::vector<float> empty;
-    std::vector<std::int16_t> packed{1, 2};
-    float scale = 5.0f;
-    pack_matrix(empty, packed, scale);
-    EXPECT_TRUE(packed.empty());
-    EXPECT_EQ(scale, 1.0f);
-
-    std::vector<float> tiny{1e-10f, -1e-10f, 0.0f};
-    pack_matrix(tiny, packed, scale);
-    EXPECT_EQ(scale, 1.0f);
+    EXPECT_EQ(pack_matrix({}, {}), 1.0f);
+    const std::vector<float> tiny{1e-10f, -1e-10f, 0.0f};
+    std::vector<std::int16_t> packed{1, 2, 3};
+    EXPECT_EQ(pack_matrix(tiny, packed), 1.0f);
     EXPECT_EQ(packed, (std::vector<std::int16_t>{0, 0, 0}));
 }
 
-TEST(StatePacking, UnpackGuards) {
-    std::vector<float> values;
-    unpack_matrix(values, {}, 1.0f, 4);  // nothing packed: zeros
-    EXPECT_EQ(values, std::vector<float>(4, 0.0f));
-    std::vector<float> kept{7.0f};
-    unpack_matrix(kept, {100}, 1.0f, 1);  // a filled matrix is left alone
-    EXPECT_EQ(kept[0], 7.0f);
-    std::vector<float> short_packed;
-    unpack_matrix(short_packed, {100}, 1.0f, 2);  // too short to decode
-    EXPECT_EQ(short_packed, std::vector<float>(2, 0.0f));
+TEST(StatePacking, ABadScaleDecodesToZeros) {
+    const std::vector<std::int16_t> packed{100, -100};
+    std::vector<float> values{7.0f, 7.0f};
+    unpack_matrix(packed, 0.0f, values);
+    EXPECT_EQ(values, std::vector<float>(2, 0.0f));
+    values.assign(2, 7.0f);
+    unpack_matrix(packed, std::numeric_limits<float>::quiet_NaN(), values);
+    EXPECT_EQ(values, std::vector<float>(2, 0.0f));
+}
+
+TEST(ZeroArray, HoldsZerosAndCanBeEmptied) {
+    ZeroArray<float> values;
+    EXPECT_TRUE(values.empty());
+    values.assign_zeros(1000);
+    ASSERT_EQ(values.size(), 1000u);
+    for (const float v : values.span()) EXPECT_EQ(v, 0.0f);
+    values[999] = 2.0f;
+    values.assign_zeros(1000);
+    EXPECT_EQ(values[999], 0.0f);
+    values.assign_zeros(0);
+    EXPECT_TRUE(values.empty());
+    EXPECT_EQ(values.span().data(), nullptr);
+}
+
+TEST(StateStore, FloatStoresHandOutTheirOwnRowsAndPackedStoresDecodeIntoTheBuffer) {
+    StateStore plain;
+    allocate_store(plain, 6, false);
+    std::vector<float> buffer;
+    const std::span<float> rows = store_rows(plain, 2, 3, 1.0f, buffer);
+    EXPECT_EQ(rows.data(), plain.values.span().data() + 2);
+    EXPECT_TRUE(buffer.empty());
+    EXPECT_EQ(store_bytes(plain), 6 * sizeof(float));
+    EXPECT_EQ(keep_store_rows(plain, 2, rows, 0.5f), 0.5f);
+
+    StateStore packed;
+    allocate_store(packed, 6, true);
+    EXPECT_TRUE(packed.values.empty());
+    EXPECT_EQ(store_bytes(packed), 6 * sizeof(std::int16_t));
+    const std::vector<float> written{2.0f, -1.0f, 0.5f};
+    const float scale = keep_store_rows(packed, 3, written, 1.0f);
+    EXPECT_EQ(scale, 2.0f);
+    EXPECT_EQ(packed.packed[0], 0);
+    const std::span<float> read = store_rows(packed, 3, 3, scale, buffer);
+    EXPECT_EQ(read.data(), buffer.data());
+    for (std::size_t i = 0; i < written.size(); ++i) EXPECT_NEAR(read[i], written[i], 2.0f / 32767.0f);
 }
 
 }  // namespace

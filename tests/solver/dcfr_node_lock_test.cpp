@@ -53,7 +53,7 @@ TEST(NodeLocks, FullLockOnOneActionIsReproducedExactly) {
     game->set_lock(0, class_lock(2, hands, all_hands(*game, 0), 0, 1.0f));
     DiscountedCfr cfr(quiet_options(60));
     cfr.solve(*game);
-    for (float r : cfr.node_state(0).regrets) EXPECT_EQ(r, 0.0f);
+    for (float r : cfr.regrets_of(0)) EXPECT_EQ(r, 0.0f);
     const std::vector<float> average = cfr.average_hand_strategy(0);
     for (std::size_t h = 0; h < hands; ++h) {
         EXPECT_EQ(average[h], 1.0f);
@@ -79,7 +79,7 @@ TEST(NodeLocks, TwoLockedClassesFreezeTheWholeNode) {
     DiscountedCfr cfr(quiet_options(120));
     cfr.solve(*game);
     EXPECT_EQ(game->node_count(), node_count);  // locks never reshape the tree
-    for (float r : cfr.node_state(0).regrets) EXPECT_EQ(r, 0.0f);
+    for (float r : cfr.regrets_of(0)) EXPECT_EQ(r, 0.0f);
     const std::vector<float> average = cfr.average_hand_strategy(0);
     for (std::size_t h = 0; h < hands; ++h) {
         const bool ace = std::find(aces.begin(), aces.end(), h) != aces.end();
@@ -98,7 +98,7 @@ TEST(NodeLocks, LockOnOneActionNode) {
     DiscountedCfr cfr(quiet_options(10));
     cfr.solve(*game);
     for (float p : cfr.average_hand_strategy(node)) EXPECT_EQ(p, 1.0f);
-    for (float r : cfr.node_state(node).regrets) EXPECT_EQ(r, 0.0f);
+    for (float r : cfr.regrets_of(node)) EXPECT_EQ(r, 0.0f);
 }
 
 TEST(NodeLocks, ExploitabilityIsMeasuredAgainstTheLockedGame) {

@@ -138,8 +138,8 @@ TEST(SolveLoop, RunsTheScheduleOfTheLastIteration) {
 float root_sum_of_first_hand(Game& game, std::uint32_t iterations) {
     DiscountedCfr cfr(quiet_options(iterations));
     cfr.solve(game);
-    NodeState& root = cfr.node_state(0);
-    const std::vector<float>& sums = cfr.strategy_sum_of(root);
+    const NodeState& root = cfr.node_state(0);
+    const std::vector<float> sums = cfr.strategy_sum_of(0);
     float total = 0.0f;
     for (std::size_t a = 0; a < root.num_actions; ++a) total += sums[a * root.num_hands];
     return total;
@@ -178,9 +178,9 @@ TEST(SolveLoop, SolveStartsAfreshEachTime) {
     auto game = river_game();
     DiscountedCfr cfr(quiet_options(30));
     cfr.solve(*game);
-    const std::vector<float> first = cfr.node_state(0).regrets;
+    const std::vector<float> first = cfr.regrets_of(0);
     cfr.solve(*game);
-    EXPECT_EQ(cfr.node_state(0).regrets, first);
+    EXPECT_EQ(cfr.regrets_of(0), first);
 }
 
 }  // namespace

@@ -78,7 +78,7 @@ inline std::uint64_t follow(const Game& game, std::initializer_list<std::uint8_t
 // The first child of a chance node, whatever card it deals.
 inline std::uint64_t first_deal(const Game& game, std::uint64_t node) {
     EXPECT_EQ(game.node(node).kind, kNodeChance);
-    return game.node(node).children.at(0);
+    return game.node(node).children[0];
 }
 
 // Uniform values in (0, 1]; about `zero_share` of them exactly 0.

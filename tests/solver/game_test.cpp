@@ -13,7 +13,8 @@ GameConfig checks_only(int street) { return spot_config(street, 100, 100, ""); }
 
 TEST(Game, CopiesEveryPlanNodeWithItsIndex) {
     const auto game = make_random_game(spot_config(kStreetRiver, 100, 150, "50,100"), "AsKd7h4c2s", 3, 0.2);
-    const auto& plan_nodes = game->plan().nodes();
+    const ActionPlan plan(game->config(), game->cards());
+    const auto& plan_nodes = plan.nodes();
     ASSERT_EQ(game->node_count(), plan_nodes.size());
     ASSERT_EQ(game->nodes().size(), plan_nodes.size());
     for (std::size_t i = 0; i < plan_nodes.size(); ++i) {
@@ -24,7 +25,7 @@ TEST(Game, CopiesEveryPlanNodeWithItsIndex) {
         EXPECT_EQ(n.street, p.street);
         EXPECT_EQ(n.all_in_runout, p.all_in_runout);
         EXPECT_EQ(n.committed, p.committed);
-        EXPECT_EQ(n.children, p.children);
+        EXPECT_TRUE(std::ranges::equal(n.children, p.children));
         ASSERT_EQ(n.actions.size(), p.actions.size());
         for (std::size_t a = 0; a < p.actions.size(); ++a) {
             EXPECT_EQ(n.actions[a].kind, p.actions[a].kind);
@@ -154,13 +155,21 @@ TEST(Game, LocksAreStoredReplacedAndLookedUpByNode) {
     EXPECT_EQ(game->locking_strategy(1), nullptr);
     EXPECT_EQ(game->locking_strategy(1u << 20), nullptr);
     // Locks alone never change the tree.
-    EXPECT_EQ(game->node_count(), game->plan().node_count());
+    EXPECT_EQ(game->node_count(), ActionPlan(game->config(), game->cards()).node_count());
+    game->set_lock(game->node_count(), {1.0f});  // out of range: ignored
+    EXPECT_EQ(game->locking_strategy(game->node_count()), nullptr);
 }
 
-TEST(Game, NodeIndexHashIsFnv1aOfTheEightBytes) {
-    const NodeIndexHash hash;
-    EXPECT_EQ(hash(0), 0xa8c7f832281a39c5ull);
-    EXPECT_EQ(hash(0x0102030405060708ull), 0x0c6d4496e17859d5ull);
+TEST(Game, NodesViewOneFlatListOfActionsAndOfChildren) {
+    const auto game = make_random_game(spot_config(kStreetRiver, 100, 150, "50,100"), "AsKd7h4c2s", 3, 0.2);
+    const Action* next_action = game->node(0).actions.data();
+    const std::uint64_t* next_child = game->node(0).children.data();
+    for (const GameNode& n : game->nodes()) {
+        EXPECT_EQ(n.actions.data(), next_action);
+        EXPECT_EQ(n.children.data(), next_child);
+        next_action += n.actions.size();
+        next_child += n.children.size();
+    }
 }
 
 TEST(Game, CompressStateIsOffUntilTheSolverSetsIt) {

@@ -89,8 +89,8 @@ struct StoredStates {
 inline StoredStates stored_states(const DiscountedCfr& cfr) {
     StoredStates states;
     for (std::uint64_t n = 0; n < cfr.state_count(); ++n) {
-        states.regrets.push_back(cfr.node_state(n).regrets);
-        states.strategy_sums.push_back(cfr.node_state(n).strategy_sum);
+        states.regrets.push_back(cfr.regrets_of(n));
+        states.strategy_sums.push_back(cfr.strategy_sum_of(n));
     }
     return states;
 }
