@@ -43,24 +43,34 @@ private:
 
 ActionPlan::ActionPlan(const GameConfig& config, const CardContext& cards)
     : config_(config), board_(cards.board), cards_(&cards), max_workers_(read_max_workers()) {
-    PlanNode root;
-    root.kind = kNodeDecision;
-    root.seat = kSeatOop;
-    root.street = config_.starting_street;
-    root.pot = config_.starting_pot;
-    root.turn_card = board_.turn;
-    root.river_card = board_.river;
-    nodes_.push_back(root);
-
-    BuildContext context;
-    context.stacks = {config_.effective_stack, config_.effective_stack};
-    context.pot = config_.starting_pot;
-    context.dead_cards = board_mask(board_);
-    context.turn_card = board_.turn;
-    context.river_card = board_.river;
-    build_recursive(0, context, 0);
+    const Child start = root(config_, board_);
+    nodes_.push_back(start.node);
+    build_recursive(0, start.context, 0);
     // Parallel workers append in the order they happen to run.
     if (max_workers_ > 1) nodes_ = renumber_depth_first(std::move(nodes_));
+}
+
+ActionPlan::Child ActionPlan::root(const GameConfig& config, const BoardCards& board) {
+    Child start;
+    start.node.kind = kNodeDecision;
+    start.node.seat = kSeatOop;
+    start.node.street = config.starting_street;
+    start.node.pot = config.starting_pot;
+    start.node.turn_card = board.turn;
+    start.node.river_card = board.river;
+    start.context.stacks = {config.effective_stack, config.effective_stack};
+    start.context.pot = config.starting_pot;
+    start.context.dead_cards = board_mask(board);
+    start.context.turn_card = board.turn;
+    start.context.river_card = board.river;
+    return start;
+}
+
+std::vector<ActionPlan::Child> ActionPlan::expand(const PlanNode& node, const BuildContext& context) const {
+    if (node.kind == kNodeDecision) return expand_decision(node, context);
+    if (node.kind == kNodeChance) return expand_chance(node, context);
+    if (node.all_in_runout != 0) return expand_runout(node, context);
+    return {};
 }
 
 void ActionPlan::build_recursive(std::uint64_t node_index, const BuildContext& context, std::uint64_t depth) {
@@ -70,16 +80,7 @@ void ActionPlan::build_recursive(std::uint64_t node_index, const BuildContext& c
         std::lock_guard lock(nodes_mutex_);
         node = nodes_[node_index];
     }
-    if (node.kind == kNodeTerminal && node.all_in_runout == 0) return;
-
-    std::vector<Child> children;
-    if (node.kind == kNodeDecision) {
-        children = expand_decision(node, context);
-    } else if (node.kind == kNodeChance) {
-        children = expand_chance(node, context);
-    } else {
-        children = expand_runout(node, context);
-    }
+    std::vector<Child> children = expand(node, context);
     if (children.empty()) return;
 
     {

@@ -97,7 +97,11 @@ private:
         PlanNode node;
     };
 
+    // The root node of a spot and the context it is expanded in.
+    static Child root(const GameConfig& config, const BoardCards& board);
     void build_recursive(std::uint64_t node, const BuildContext& context, std::uint64_t depth);
+    // The children of any node: none for a terminal without a runout.
+    std::vector<Child> expand(const PlanNode& node, const BuildContext& context) const;
     std::vector<Child> expand_decision(const PlanNode& node, const BuildContext& context) const;
     std::vector<Child> expand_chance(const PlanNode& node, const BuildContext& context) const;
     std::vector<Child> expand_runout(const PlanNode& node, const BuildContext& context) const;

@@ -18,37 +18,16 @@ public:
     PlanCounter(const GameConfig& config, const CardContext& cards, const PlanCountLimit& within_limit)
         : expansion_(config, cards, ActionPlan::Unbuilt{}), within_limit_(within_limit) {}
 
-    // The same root as the plan's constructor.
     PlanCount run(const GameConfig& config, const BoardCards& board) {
-        PlanNode root;
-        root.kind = kNodeDecision;
-        root.seat = kSeatOop;
-        root.street = config.starting_street;
-        root.pot = config.starting_pot;
-        root.turn_card = board.turn;
-        root.river_card = board.river;
-
-        ActionPlan::BuildContext context;
-        context.stacks = {config.effective_stack, config.effective_stack};
-        context.pot = config.starting_pot;
-        context.dead_cards = board_mask(board);
-        context.turn_card = board.turn;
-        context.river_card = board.river;
-        visit(root, context);
+        const ActionPlan::Child start = ActionPlan::root(config, board);
+        visit(start.node, start.context);
         return totals_;
     }
 
 private:
-    std::vector<ActionPlan::Child> expand(const PlanNode& node, const ActionPlan::BuildContext& context) const {
-        if (node.kind == kNodeDecision) return expansion_.expand_decision(node, context);
-        if (node.kind == kNodeChance) return expansion_.expand_chance(node, context);
-        if (node.all_in_runout != 0) return expansion_.expand_runout(node, context);
-        return {};
-    }
-
     void visit(const PlanNode& node, const ActionPlan::BuildContext& context) {
         if (!totals_.complete) return;
-        const std::vector<ActionPlan::Child> children = expand(node, context);
+        const std::vector<ActionPlan::Child> children = expansion_.expand(node, context);
         ++totals_.nodes;
         totals_.actions += children.size();
         if (node.kind == kNodeDecision && !children.empty()) {
